@@ -1,0 +1,164 @@
+// Reading side of the private-profile functions: one streaming pass over the file that stops
+// as soon as the answer is known.
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+#include <vector>
+
+#include "platform/profile/private_profile.h"
+#include "platform/profile/profile_line.h"
+#include "platform/profile/profile_line_reader.h"
+
+namespace zt::profile {
+
+namespace {
+
+// Windows keeps value lengths in 16 bits: a longer value comes back cut to its length modulo
+// 65536.
+constexpr std::size_t kValueLengthWrap = 65536;
+
+enum class Lookup { Found, NotFound, NoFile };
+
+// Finds the first `key` in the first section named `section`. Lines before the first header
+// belong to no section; a later section of the same name is never searched.
+Lookup lookupValue(std::string_view section, std::string_view key, const char* fileName,
+                   std::string& value) {
+    ProfileLineReader reader(fileName);
+    if (!reader.isOpen()) return Lookup::NoFile;
+    bool inSection = false;
+    std::string_view line;
+    while (reader.next(line)) {
+        if (!inSection && !isSectionLine(line)) continue;
+        const ProfileLine parsed = parseLine(line);
+        if (parsed.kind == LineKind::Section) {
+            if (inSection) return Lookup::NotFound;  // the first matching section has ended
+            inSection = equalsIgnoreCase(parsed.name, section);
+        } else if (inSection && parsed.kind == LineKind::Key &&
+                   equalsIgnoreCase(parsed.name, key)) {
+            const std::string_view v =
+                parsed.value.substr(0, parsed.value.size() % kValueLengthWrap);
+            value.assign(v.data(), v.size());
+            return Lookup::Found;
+        }
+    }
+    return Lookup::NotFound;
+}
+
+// Appends every section name, each followed by a NUL. Sections named "" are left out: their
+// empty name would end the list early.
+bool listSections(const char* fileName, std::string& list) {
+    ProfileLineReader reader(fileName);
+    if (!reader.isOpen()) return false;
+    std::string_view line;
+    while (reader.next(line)) {
+        if (!isSectionLine(line)) continue;
+        const ProfileLine parsed = parseLine(line);
+        if (!parsed.name.empty()) {
+            list.append(parsed.name);
+            list.push_back('\0');
+        }
+    }
+    return true;
+}
+
+// Appends the key names of the first section named `section`, duplicates included, each
+// followed by a NUL. Lines without '=' are not keys and are left out.
+void listKeys(std::string_view section, const char* fileName, std::string& list) {
+    ProfileLineReader reader(fileName);
+    bool inSection = false;
+    std::string_view line;
+    while (reader.next(line)) {
+        if (!inSection && !isSectionLine(line)) continue;
+        const ProfileLine parsed = parseLine(line);
+        if (parsed.kind == LineKind::Section) {
+            if (inSection) return;
+            inSection = equalsIgnoreCase(parsed.name, section);
+        } else if (inSection && parsed.kind == LineKind::Key && !parsed.name.empty()) {
+            list.append(parsed.name);
+            list.push_back('\0');
+        }
+    }
+}
+
+uint32_t copyText(std::string_view text, char* buffer, uint32_t size) {
+    if (size == 0) return 0;
+    const std::size_t n = std::min<std::size_t>(text.size(), size - 1);
+    if (n > 0) std::memcpy(buffer, text.data(), n);
+    buffer[n] = '\0';
+    return static_cast<uint32_t>(n);
+}
+
+// `list` holds names each ended by a NUL; the final NUL is added here. The list fits only when
+// two bytes are left after it; otherwise it is cut to size-2 bytes followed by two NULs.
+uint32_t copyList(std::string_view list, char* buffer, uint32_t size) {
+    if (size == 0) return 0;
+    if (list.empty() || size == 1) {
+        buffer[0] = '\0';
+        return 0;
+    }
+    if (list.size() + 2 <= size) {
+        std::memcpy(buffer, list.data(), list.size());
+        buffer[list.size()] = '\0';
+        return static_cast<uint32_t>(list.size());
+    }
+    std::memcpy(buffer, list.data(), size - 2);
+    buffer[size - 2] = '\0';
+    buffer[size - 1] = '\0';
+    return size - 2;
+}
+
+// The default without its trailing spaces (only 0x20; tabs and line ends stay). No quote
+// removal: Windows copies the default as given.
+uint32_t copyDefault(const char* defaultValue, char* buffer, uint32_t size) {
+    std::string_view text = defaultValue != nullptr ? defaultValue : "";
+    while (!text.empty() && text.back() == ' ')
+        text.remove_suffix(1);
+    return copyText(text, buffer, size);
+}
+
+}  // namespace
+
+uint32_t GetPrivateProfileStringA(const char* section, const char* key, const char* defaultValue,
+                                  char* buffer, uint32_t size, const char* fileName) {
+    if (buffer == nullptr) size = 0;
+    const bool haveFile = fileName != nullptr && fileName[0] != '\0';
+    if (section == nullptr) {
+        std::string list;
+        if (haveFile) listSections(fileName, list);
+        return copyList(list, buffer, size);
+    }
+    const std::string_view sectionName = trimSpaces(section);
+    if (key == nullptr) {
+        std::string list;
+        if (haveFile) listKeys(sectionName, fileName, list);
+        if (list.empty()) return copyDefault(defaultValue, buffer, size);
+        return copyList(list, buffer, size);
+    }
+    std::string value;
+    if (haveFile && lookupValue(sectionName, trimSpaces(key), fileName, value) == Lookup::Found) {
+        return copyText(value, buffer, size);
+    }
+    return copyDefault(defaultValue, buffer, size);
+}
+
+std::optional<std::string> findProfileString(const std::string& section, const std::string& key,
+                                             const std::string& fileName) {
+    if (fileName.empty()) return std::nullopt;
+    std::string value;
+    if (lookupValue(trimSpaces(section), trimSpaces(key), fileName.c_str(), value) !=
+        Lookup::Found) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::string getProfileString(const std::string& section, const std::string& key,
+                             const std::string& defaultValue, const std::string& fileName,
+                             uint32_t size) {
+    std::vector<char> buffer(size);
+    const uint32_t n = GetPrivateProfileStringA(section.c_str(), key.c_str(), defaultValue.c_str(),
+                                                buffer.data(), size, fileName.c_str());
+    return n == 0 ? std::string() : std::string(buffer.data(), n);
+}
+
+}  // namespace zt::profile

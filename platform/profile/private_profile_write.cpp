@@ -1,0 +1,143 @@
+// Writing side of the private-profile functions. The file is edited in place the way Windows
+// does it: only the affected lines change, every other byte stays as it was.
+#include <string>
+#include <string_view>
+
+#include "platform/profile/private_profile.h"
+#include "platform/profile/profile_file_io.h"
+#include "platform/profile/profile_line.h"
+
+namespace zt::profile {
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::size_t kNone = std::string_view::npos;
+
+// Where the first section named `section` and the first `key` in it lie in the file's bytes.
+struct SectionLayout {
+    bool found = false;
+    std::size_t headerBegin = kNone;
+    std::size_t afterHeader = kNone;  // start of the line after the header
+    bool headerHasEnd = false;
+    std::size_t afterLastKey = kNone;  // start of the line after the section's last key line
+    bool lastKeyHasEnd = false;
+    std::size_t keyBegin = kNone;  // the line of `key`
+    std::size_t keyNext = kNone;
+    std::string_view keyName;  // `key` as the file spells it
+};
+
+SectionLayout locate(std::string_view text, std::string_view section, std::string_view key,
+                     bool wantKey) {
+    SectionLayout layout;
+    bool inSection = false;
+    for (std::size_t pos = 0; pos < text.size();) {
+        const LineSpan span = splitLine(text, pos);
+        const ProfileLine parsed = parseLine(text.substr(pos, span.contentEnd - pos));
+        const bool hasEnd = span.next > span.contentEnd;
+        if (parsed.kind == LineKind::Section) {
+            if (inSection) break;
+            if (equalsIgnoreCase(parsed.name, section)) {
+                inSection = layout.found = true;
+                layout.headerBegin = pos;
+                layout.afterHeader = span.next;
+                layout.headerHasEnd = hasEnd;
+            }
+        } else if (inSection && parsed.kind == LineKind::Key) {
+            layout.afterLastKey = span.next;
+            layout.lastKeyHasEnd = hasEnd;
+            if (wantKey && layout.keyBegin == kNone && equalsIgnoreCase(parsed.name, key)) {
+                layout.keyBegin = pos;
+                layout.keyNext = span.next;
+                layout.keyName = parsed.name;
+            }
+        }
+        pos = span.next;
+    }
+    return layout;
+}
+
+bool endsWithLineEnd(std::string_view text) {
+    return text.empty() || text.back() == '\n' || text.back() == '\r';
+}
+
+// Drops the header and the key lines of the first section named `section`; comments, blank
+// lines and lines without '=' stay where they are.
+bool deleteSection(const char* fileName, std::string_view text, std::string_view section) {
+    std::string out;
+    out.reserve(text.size());
+    bool inSection = false;
+    bool found = false;
+    std::size_t pos = 0;
+    for (; pos < text.size();) {
+        const LineSpan span = splitLine(text, pos);
+        const ProfileLine parsed = parseLine(text.substr(pos, span.contentEnd - pos));
+        bool drop = false;
+        if (parsed.kind == LineKind::Section) {
+            if (inSection) break;
+            if (equalsIgnoreCase(parsed.name, section)) inSection = found = drop = true;
+        } else if (inSection && parsed.kind == LineKind::Key) {
+            drop = true;
+        }
+        if (!drop) out.append(text.substr(pos, span.next - pos));
+        pos = span.next;
+    }
+    if (!found) return true;
+    return replaceFile(fileName, {out, text.substr(pos)});
+}
+
+}  // namespace
+
+bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
+                                const char* fileName) {
+    if (section == nullptr || fileName == nullptr || fileName[0] == '\0') return false;
+    const std::string_view sectionName = trimSpaces(section);
+    const std::string_view keyName = key != nullptr ? trimSpaces(key) : std::string_view();
+
+    std::string content;
+    switch (readWholeFile(fileName, content)) {
+        case ReadResult::Failed:
+            return false;
+        case ReadResult::Missing:
+            // Nothing to delete in a file that does not exist.
+            if (key == nullptr || value == nullptr) return true;
+            return replaceFile(fileName,
+                               {"[", sectionName, "]", kLineEnd, keyName, "=", value, kLineEnd});
+        case ReadResult::Ok:
+            break;
+    }
+    const std::string_view text = content;
+
+    if (key == nullptr) return deleteSection(fileName, text, sectionName);
+
+    const SectionLayout layout = locate(text, sectionName, keyName, true);
+    if (value == nullptr) {
+        if (layout.keyBegin == kNone) return true;
+        return replaceFile(fileName,
+                           {text.substr(0, layout.keyBegin), text.substr(layout.keyNext)});
+    }
+    if (layout.keyBegin != kNone) {
+        // The line is rewritten with the file's spelling of the key and a CR LF.
+        return replaceFile(fileName, {text.substr(0, layout.keyBegin), layout.keyName, "=", value,
+                                      kLineEnd, text.substr(layout.keyNext)});
+    }
+    if (layout.found) {
+        // A new key goes right after the section's last key line, or after its header.
+        const bool afterKey = layout.afterLastKey != kNone;
+        const std::size_t at = afterKey ? layout.afterLastKey : layout.afterHeader;
+        const bool precededByEnd = afterKey ? layout.lastKeyHasEnd : layout.headerHasEnd;
+        return replaceFile(fileName, {text.substr(0, at), precededByEnd ? "" : kLineEnd, keyName,
+                                      "=", value, kLineEnd, text.substr(at)});
+    }
+    // A new section goes at the end of the file, with no blank line before it.
+    return replaceFile(fileName, {text, endsWithLineEnd(text) ? "" : kLineEnd, "[", sectionName,
+                                  "]", kLineEnd, keyName, "=", value, kLineEnd});
+}
+
+bool writeProfileString(const std::string& section, const std::string& key,
+                        const std::string& value, const std::string& fileName) {
+    return WritePrivateProfileStringA(section.c_str(), key.c_str(), value.c_str(),
+                                      fileName.c_str());
+}
+
+}  // namespace zt::profile

@@ -1,0 +1,80 @@
+#include "platform/profile/profile_file_io.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <system_error>
+
+namespace zt::profile {
+
+namespace {
+
+struct Closer {
+    void operator()(std::FILE* f) const { std::fclose(f); }
+};
+using FilePtr = std::unique_ptr<std::FILE, Closer>;
+
+std::string temporaryNameFor(const std::string& target) {
+    std::random_device random;
+    const auto tag = (static_cast<unsigned long long>(random()) << 32) ^ random();
+    char suffix[32];
+    std::snprintf(suffix, sizeof suffix, ".~%016llx.tmp", tag);
+    return target + suffix;
+}
+
+}  // namespace
+
+ReadResult readWholeFile(const char* fileName, std::string& content) {
+    content.clear();
+    errno = 0;
+    FilePtr file(std::fopen(fileName, "rb"));
+    if (!file) return errno == ENOENT ? ReadResult::Missing : ReadResult::Failed;
+    char chunk[64 * 1024];
+    for (;;) {
+        const std::size_t got = std::fread(chunk, 1, sizeof chunk, file.get());
+        content.append(chunk, got);
+        if (got < sizeof chunk) break;
+    }
+    return std::ferror(file.get()) != 0 ? ReadResult::Failed : ReadResult::Ok;
+}
+
+bool replaceFile(const char* fileName, std::initializer_list<std::string_view> parts) {
+    const std::string target(fileName);
+    std::string temporary;
+    FilePtr out;
+    // "x" refuses an existing file, so a name clash just draws another name.
+    for (int attempt = 0; attempt < 8 && !out; ++attempt) {
+        temporary = temporaryNameFor(target);
+        errno = 0;
+        out.reset(std::fopen(temporary.c_str(), "wbx"));
+        if (!out && errno != EEXIST) return false;
+    }
+    if (!out) return false;
+
+    bool ok = true;
+    for (const std::string_view part : parts) {
+        if (!part.empty() && std::fwrite(part.data(), 1, part.size(), out.get()) != part.size()) {
+            ok = false;
+            break;
+        }
+    }
+    ok = std::fflush(out.get()) == 0 && ok;
+    ok = std::fclose(out.release()) == 0 && ok;
+
+    std::error_code ec;
+    if (ok) {
+        // Keep the permissions of a file that is being replaced.
+        const auto status = std::filesystem::status(target, ec);
+        if (!ec && std::filesystem::exists(status)) {
+            std::filesystem::permissions(temporary, status.permissions(), ec);
+        }
+        std::filesystem::rename(temporary, target, ec);
+        ok = !ec;
+    }
+    if (!ok) std::filesystem::remove(temporary, ec);
+    return ok;
+}
+
+}  // namespace zt::profile

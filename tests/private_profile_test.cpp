@@ -1,0 +1,470 @@
+#include "platform/profile/private_profile.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace zt::profile {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Each test works in a folder of its own that is removed afterwards.
+class ProfileFileTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        std::random_device random;
+        dir_ = fs::temp_directory_path() /
+               ("zt_profile_" + std::to_string(random()) + "_" + std::to_string(random()));
+        fs::create_directories(dir_);
+        file_ = (dir_ / "test.ini").string();
+    }
+    void TearDown() override {
+        std::error_code ec;
+        fs::remove_all(dir_, ec);
+    }
+
+    void put(const std::string& bytes) const { writeBytes(file_, bytes); }
+    std::string bytes() const { return readBytes(file_); }
+
+    static void writeBytes(const std::string& path, const std::string& bytes) {
+        std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
+    }
+    static std::string readBytes(const std::string& path) {
+        std::ifstream in(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    }
+
+    // GetPrivateProfileStringA into a 256-byte buffer; the text up to the returned length.
+    std::string get(const char* section, const char* key, const char* def = "dflt",
+                    uint32_t* returned = nullptr) const {
+        char buffer[256];
+        const uint32_t n =
+            GetPrivateProfileStringA(section, key, def, buffer, sizeof buffer, file_.c_str());
+        if (returned != nullptr) *returned = n;
+        EXPECT_EQ(buffer[n], '\0');
+        return std::string(buffer, n);
+    }
+
+    fs::path dir_;
+    std::string file_;
+};
+
+// ---------------------------------------------------------------------------------------------
+// Reading single values
+
+const char* const kReadFile =
+    "; leading comment\r\n"
+    "orphan=1\r\n"
+    "[Main]\r\n"
+    "  Speed = 12  \r\n"
+    "Empty=\r\n"
+    "Quoted=  \"  a \"  \r\n"
+    "Mixed=\"a'\r\n"
+    "Inner=\"'a'\"\r\n"
+    "Single='x'\r\n"
+    "Lone=\"\r\n"
+    "Eq=b=c\r\n"
+    "Inline=v ;x\r\n"
+    "#k=1\r\n"
+    "  ;Commented=1\r\n"
+    "120,0,5,-312,4000,0,0\r\n"
+    "\v Tabbed\t=\tt\v\r\n"
+    "Dup=first\r\n"
+    "dup=second\r\n"
+    "\r\n"
+    "[ Spaced ]\r\n"
+    "k=spaced\r\n"
+    "[Main]\r\n"
+    "Later=1\r\n"
+    "[Open\r\n"
+    "k=open\r\n"
+    "[a]b]\r\n"
+    "k=ab\r\n"
+    "[Tail]x=1\r\n"
+    "y=2\r\n"
+    "[]\r\n"
+    "k=unnamed\r\n";
+
+struct ReadCase {
+    const char* section;
+    const char* key;
+    const char* expected;
+};
+
+class ProfileRead : public ProfileFileTest, public ::testing::WithParamInterface<ReadCase> {};
+
+TEST_P(ProfileRead, FindsValueOrDefault) {
+    put(kReadFile);
+    const ReadCase& c = GetParam();
+    uint32_t returned = 0;
+    EXPECT_EQ(get(c.section, c.key, "dflt", &returned), c.expected);
+    EXPECT_EQ(returned, std::string(c.expected).size());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, ProfileRead,
+    ::testing::Values(ReadCase{"Main", "Speed", "12"},         // key and value trimmed
+                      ReadCase{"mAIN", "SPEED", "12"},         // names ignore case
+                      ReadCase{" Main ", " Speed ", "12"},     // spaces around parameters
+                      ReadCase{"\tMain", "Speed", "dflt"},     // a tab in a parameter stays
+                      ReadCase{"Main", "Empty", ""},           // empty value, not the default
+                      ReadCase{"Main", "Quoted", "  a "},      // outer quotes removed
+                      ReadCase{"Main", "Mixed", "\"a'"},       // unmatched quotes stay
+                      ReadCase{"Main", "Inner", "'a'"},        // only one pair removed
+                      ReadCase{"Main", "Single", "x"},         // single quotes too
+                      ReadCase{"Main", "Lone", "\""},          // one quote char is no pair
+                      ReadCase{"Main", "Eq", "b=c"},           // split at the first '='
+                      ReadCase{"Main", "Inline", "v ;x"},      // no inline comments
+                      ReadCase{"Main", "#k", "1"},             // '#' starts no comment
+                      ReadCase{"Main", ";Commented", "dflt"},  // comment line
+                      ReadCase{"Main", "120,0,5,-312,4000,0,0", "dflt"},  // line without '='
+                      ReadCase{"Main", "Tabbed", "t"},                    // tab and VT trimmed
+                      ReadCase{"Main", "dup", "first"},                   // first key wins
+                      ReadCase{"Main", "Later", "dflt"},      // second [Main] is never searched
+                      ReadCase{"Spaced", "k", "spaced"},      // header name trimmed
+                      ReadCase{"Open", "k", "open"},          // header without ']'
+                      ReadCase{"a", "k", "ab"},               // name ends at the first ']'
+                      ReadCase{"Tail", "x", "dflt"},          // text after ']' is ignored
+                      ReadCase{"Tail", "y", "2"},             //
+                      ReadCase{"", "k", "unnamed"},           // "[]" is a section named ""
+                      ReadCase{"", "orphan", "dflt"},         // lines before the first header
+                      ReadCase{"Missing", "Speed", "dflt"},   // missing section
+                      ReadCase{"Main", "Missing", "dflt"}));  // missing key
+
+struct LineEndCase {
+    const char* name;
+    const char* eol;
+};
+
+class ProfileLineEnds : public ProfileFileTest,
+                        public ::testing::WithParamInterface<LineEndCase> {};
+
+TEST_P(ProfileLineEnds, SplitLinesAtEveryLineEnd) {
+    const std::string e = GetParam().eol;
+    put("[A]" + e + "a=1" + e + e + "b = 2" + e + "[B]" + e + "c=3");
+    EXPECT_EQ(get("A", "a"), "1");
+    EXPECT_EQ(get("A", "b"), "2");
+    EXPECT_EQ(get("A", "c"), "dflt");
+    EXPECT_EQ(get("B", "c"), "3");
+}
+
+INSTANTIATE_TEST_SUITE_P(Ends, ProfileLineEnds,
+                         ::testing::Values(LineEndCase{"CrLf", "\r\n"}, LineEndCase{"Lf", "\n"},
+                                           LineEndCase{"Cr", "\r"}, LineEndCase{"LfCr", "\n\r"}),
+                         [](const auto& param) { return std::string(param.param.name); });
+
+TEST_F(ProfileFileTest, MissingFileGivesTheDefault) {
+    uint32_t returned = 0;
+    EXPECT_EQ(get("A", "a", "fallback", &returned), "fallback");
+    EXPECT_EQ(returned, 8u);
+    EXPECT_FALSE(fs::exists(file_));
+    EXPECT_EQ(findProfileString("A", "a", file_), std::nullopt);
+}
+
+TEST_F(ProfileFileTest, DefaultLosesOnlyTrailingSpaces) {
+    EXPECT_EQ(get("A", "a", "one two  "), "one two");
+    EXPECT_EQ(get("A", "a", "  d  "), "  d");
+    EXPECT_EQ(get("A", "a", "d\t "), "d\t");
+    EXPECT_EQ(get("A", "a", "\"q\""), "\"q\"");
+    uint32_t returned = 9;
+    EXPECT_EQ(get("A", "a", nullptr, &returned), "");
+    EXPECT_EQ(returned, 0u);
+}
+
+TEST_F(ProfileFileTest, Utf8MarkHidesTheFirstHeader) {
+    put("\xEF\xBB\xBF[A]\r\na=1\r\n[B]\r\nb=2\r\n");
+    EXPECT_EQ(get("A", "a"), "dflt");
+    EXPECT_EQ(get("B", "b"), "2");
+}
+
+struct SizeCase {
+    uint32_t size;
+    const char* text;
+    uint32_t returned;
+};
+
+class ProfileTruncation : public ProfileFileTest, public ::testing::WithParamInterface<SizeCase> {};
+
+TEST_P(ProfileTruncation, CutsToSizeMinusOne) {
+    put("[s]\r\nname1=val1\r\n");
+    char buffer[8] = "kumquat";
+    const SizeCase& c = GetParam();
+    EXPECT_EQ(GetPrivateProfileStringA("s", "name1", "default", buffer, c.size, file_.c_str()),
+              c.returned);
+    EXPECT_STREQ(buffer, c.text);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, ProfileTruncation,
+                         ::testing::Values(SizeCase{0, "kumquat", 0}, SizeCase{1, "", 0},
+                                           SizeCase{2, "v", 1}, SizeCase{4, "val", 3},
+                                           SizeCase{5, "val1", 4}, SizeCase{8, "val1", 4}));
+
+TEST_F(ProfileFileTest, LongValueIsCutToTheBuffer) {
+    std::string value(20000, 'x');
+    for (std::size_t i = 0; i < value.size(); ++i)
+        value[i] = static_cast<char>('a' + i % 26);
+    put("[Graph]\r\nLong=" + value + "\r\nAfter=1\r\n");
+    std::vector<char> buffer(12800, '\x01');
+    EXPECT_EQ(GetPrivateProfileStringA("Graph", "Long", "GetPrivateProfileReadError", buffer.data(),
+                                       12800, file_.c_str()),
+              12799u);
+    EXPECT_EQ(std::string(buffer.data()), value.substr(0, 12799));
+    EXPECT_EQ(findProfileString("Graph", "Long", file_), value);
+    EXPECT_EQ(get("Graph", "After"), "1");
+}
+
+TEST_F(ProfileFileTest, ValueLengthWrapsAtSixteenBits) {
+    put("[A]\r\nfull=" + std::string(65536, 'x') + "\r\none=" + std::string(65537, 'y') + "\r\n");
+    EXPECT_EQ(get("A", "full"), "");
+    EXPECT_EQ(get("A", "one"), "y");
+}
+
+// ---------------------------------------------------------------------------------------------
+// Name lists
+
+TEST_F(ProfileFileTest, NullSectionListsEverySectionName) {
+    put("x=0\r\n[section1]\r\nname1=val1\r\n[Section2]\r\n[section1]\r\n");
+    uint32_t returned = 0;
+    EXPECT_EQ(get(nullptr, "ignored", "dflt", &returned),
+              std::string("section1\0Section2\0section1\0", 27));
+    EXPECT_EQ(returned, 27u);
+}
+
+TEST_F(ProfileFileTest, NullKeyListsKeysOfTheFirstSection) {
+    put("[s]\r\nname1=val1\r\nname2=\r\nname3\r\n;c=1\r\nNAME1=x\r\nname4=val4\r\n[S]\r\nz=1\r\n");
+    uint32_t returned = 0;
+    EXPECT_EQ(get("s", nullptr, "dflt", &returned),
+              std::string("name1\0name2\0NAME1\0name4\0", 24));
+    EXPECT_EQ(returned, 24u);
+    EXPECT_EQ(get("none", nullptr, "dflt"), "dflt");
+}
+
+struct ListCase {
+    uint32_t size;
+    std::string bytes;  // the buffer's first `size` bytes after the call
+    uint32_t returned;
+};
+
+class ProfileListTruncation : public ProfileFileTest,
+                              public ::testing::WithParamInterface<ListCase> {};
+
+TEST_P(ProfileListTruncation, CutsToSizeMinusTwoWithDoubleNul) {
+    put("[section1]\r\n[section2]\r\n[section3]\r\n");
+    const ListCase& c = GetParam();
+    std::vector<char> buffer(40, '\x0c');
+    EXPECT_EQ(
+        GetPrivateProfileStringA(nullptr, nullptr, nullptr, buffer.data(), c.size, file_.c_str()),
+        c.returned);
+    EXPECT_EQ(std::string(buffer.data(), c.size), c.bytes);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sizes, ProfileListTruncation,
+    ::testing::Values(ListCase{29, std::string("section1\0section2\0section3\0\0\x0c", 29), 27},
+                      ListCase{28, std::string("section1\0section2\0section3\0\0", 28), 26},
+                      ListCase{16, std::string("section1\0secti\0\0", 16), 14},
+                      ListCase{2, std::string("\0\0", 2), 0},
+                      ListCase{1, std::string("\0", 1), 0}));
+
+TEST_F(ProfileFileTest, MissingFileListsNothing) {
+    char buffer[4] = {'\x0c', '\x0c', '\x0c', '\x0c'};
+    EXPECT_EQ(GetPrivateProfileStringA(nullptr, nullptr, "d", buffer, 4, file_.c_str()), 0u);
+    EXPECT_EQ(buffer[0], '\0');
+    EXPECT_EQ(buffer[1], '\x0c');
+}
+
+// ---------------------------------------------------------------------------------------------
+// Writing
+
+struct WriteCase {
+    const char* name;
+    std::string before;
+    const char* section;
+    const char* key;
+    const char* value;
+    std::string after;
+};
+
+class ProfileWrite : public ProfileFileTest, public ::testing::WithParamInterface<WriteCase> {};
+
+TEST_P(ProfileWrite, EditsInPlace) {
+    const WriteCase& c = GetParam();
+    put(c.before);
+    EXPECT_TRUE(WritePrivateProfileStringA(c.section, c.key, c.value, file_.c_str()));
+    EXPECT_EQ(bytes(), c.after);
+}
+
+const std::string kMixed = "; c\n[A]\r\nfoo = 1\nTestKey=a\r  [B]\nx=1\r\r\ny=2";
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, ProfileWrite,
+    ::testing::Values(
+        WriteCase{"ReplaceKeepsOtherBytesAndSpelling", kMixed, "a", "TESTKEY", "b",
+                  "; c\n[A]\r\nfoo = 1\nTestKey=b\r\n  [B]\nx=1\r\r\ny=2"},
+        WriteCase{"ReplaceLastLineAddsLineEnd", kMixed, "B", "Y", "3",
+                  "; c\n[A]\r\nfoo = 1\nTestKey=a\r  [B]\nx=1\r\r\ny=3\r\n"},
+        WriteCase{"ReplaceRewritesSpacing", kMixed, "A", "foo", " 2 ",
+                  "; c\n[A]\r\nfoo= 2 \r\nTestKey=a\r  [B]\nx=1\r\r\ny=2"},
+        WriteCase{"ReplaceFirstOfDuplicates", "[A]\r\nk=1\r\nk=2\r\n", "A", "k", "3",
+                  "[A]\r\nk=3\r\nk=2\r\n"},
+        WriteCase{"NewKeyAfterLastKeyBeforeComments", "[A]\r\na=1\r\n;c\r\n\r\n[B]\r\nb=1\r\n", "A",
+                  "c", "3", "[A]\r\na=1\r\nc=3\r\n;c\r\n\r\n[B]\r\nb=1\r\n"},
+        WriteCase{"NewKeyBeforeDataLines", "[D]\r\nComment= \r\nh1,h2=\r\n1,2\r\n3,4\r\n", "D", "k",
+                  "v", "[D]\r\nComment= \r\nh1,h2=\r\nk=v\r\n1,2\r\n3,4\r\n"},
+        WriteCase{"NewKeyUnderBareHeader", "[A]\r\n; note\r\n[B]\r\n", "A", "k", "v",
+                  "[A]\r\nk=v\r\n; note\r\n[B]\r\n"},
+        WriteCase{"NewKeyUnderHeaderWithoutLineEnd", "[A]", "A", "k", "v", "[A]\r\nk=v\r\n"},
+        WriteCase{"NewKeyAfterKeyWithoutLineEnd", "[A]\na=1", "A", "b", "2", "[A]\na=1\r\nb=2\r\n"},
+        WriteCase{"NewKeyInFirstOfDuplicateSections", "[A]\r\na=1\r\n[A]\r\nb=1\r\n", "A", "b", "2",
+                  "[A]\r\na=1\r\nb=2\r\n[A]\r\nb=1\r\n"},
+        WriteCase{"NewSectionAtEnd", "[A]\na=1\n", "B", "b", "2", "[A]\na=1\n[B]\r\nb=2\r\n"},
+        WriteCase{"NewSectionAfterLineWithoutEnd", "[A]\r\na=1", "B", "b", "2",
+                  "[A]\r\na=1\r\n[B]\r\nb=2\r\n"},
+        WriteCase{"NewSectionInEmptyFile", "", " B ", " b ", "2", "[B]\r\nb=2\r\n"},
+        WriteCase{"NewSectionAfterUtf8MarkedHeader", "\xEF\xBB\xBF[A]\r\na=1", "A", "a", "2",
+                  "\xEF\xBB\xBF[A]\r\na=1\r\n[A]\r\na=2\r\n"},
+        WriteCase{"ValueIsVerbatim", "[A]\r\n", "A", "k", " \"v\" ", "[A]\r\nk= \"v\" \r\n"},
+        WriteCase{"EmptyValue", "[A]\r\nk=1\r\n", "A", "k", "", "[A]\r\nk=\r\n"},
+        WriteCase{"CommentKeyAddsCommentLine", "[A]\r\n;k=1\r\n", "A", ";k", "1",
+                  "[A]\r\n;k=1\r\n;k=1\r\n"},
+        WriteCase{"DeleteKey", "[A]\r\na=1\nb=2\rc=3\r\n", "A", "B", nullptr,
+                  "[A]\r\na=1\nc=3\r\n"},
+        WriteCase{"DeleteMissingKey", "[A]\na=1", "A", "zz", nullptr, "[A]\na=1"},
+        WriteCase{"DeleteSectionKeepsComments",
+                  "[A]\r\n;c\r\na=1\r\n\r\n120,0\r\nb=2\r\n[B]\r\nb=1\r\n", "a", nullptr, "x",
+                  ";c\r\n\r\n120,0\r\n[B]\r\nb=1\r\n"},
+        WriteCase{"DeleteMissingSection", "[A]\r\n", "B", nullptr, nullptr, "[A]\r\n"}),
+    [](const auto& param) { return std::string(param.param.name); });
+
+TEST_F(ProfileFileTest, NewSectionCollectsKeysInWriteOrder) {
+    for (const char* key : {"z", ";y", "a", ";b", ";c"}) {
+        ASSERT_TRUE(WritePrivateProfileStringA("S", key, "1", file_.c_str()));
+    }
+    EXPECT_EQ(bytes(), "[S]\r\nz=1\r\na=1\r\n;c=1\r\n;b=1\r\n;y=1\r\n");
+}
+
+TEST_F(ProfileFileTest, MissingFileIsCreatedWithExactBytes) {
+    EXPECT_TRUE(WritePrivateProfileStringA("Sec", "key", "value", file_.c_str()));
+    EXPECT_EQ(bytes(), "[Sec]\r\nkey=value\r\n");
+    EXPECT_EQ(get("sec", "KEY"), "value");
+}
+
+TEST_F(ProfileFileTest, WritesThatCannotHappenCreateNothing) {
+    const std::string nested = (dir_ / "no_such_dir" / "x.ini").string();
+    EXPECT_FALSE(WritePrivateProfileStringA("S", "k", "v", nested.c_str()));
+    EXPECT_FALSE(WritePrivateProfileStringA(nullptr, "k", "v", file_.c_str()));
+    EXPECT_FALSE(WritePrivateProfileStringA(nullptr, nullptr, nullptr, file_.c_str()));
+    EXPECT_FALSE(WritePrivateProfileStringA("S", "k", "v", ""));
+    EXPECT_FALSE(WritePrivateProfileStringA("S", "k", "v", nullptr));
+    EXPECT_TRUE(WritePrivateProfileStringA("S", "k", nullptr, file_.c_str()));
+    EXPECT_TRUE(WritePrivateProfileStringA("S", nullptr, nullptr, file_.c_str()));
+    EXPECT_FALSE(fs::exists(file_));
+    EXPECT_FALSE(fs::exists(dir_ / "no_such_dir"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir_), fs::directory_iterator()), 0);
+}
+
+TEST_F(ProfileFileTest, NullSectionLeavesAnExistingFileAlone) {
+    put("[A]\na=1");
+    EXPECT_FALSE(WritePrivateProfileStringA(nullptr, "a", "2", file_.c_str()));
+    EXPECT_EQ(bytes(), "[A]\na=1");
+}
+
+// ---------------------------------------------------------------------------------------------
+// The graph text file: keyed writes, each DATA section created by its Comment write and then
+// followed by lines appended with plain file output.
+
+const char* const kDataHeader =
+    "Difference time,Fault data,Digital data,Analog data1,Analog data2,Analog data3,Analog "
+    "data4";
+
+std::string dataLine(int g, int i) {
+    return std::to_string(120 + g) + ",0," + std::to_string(i % 16) + "," +
+           std::to_string(-312 * g) + "," + std::to_string(i) + ",0,0\r\n";
+}
+
+TEST_F(ProfileFileTest, GraphFileShapeWritesAndReadsBack) {
+    constexpr int kLines = 10000;
+    std::string expected;
+    auto write = [&](const std::string& s, const std::string& k, const std::string& v) {
+        ASSERT_TRUE(writeProfileString(s, k, v, file_));
+    };
+    write("COMMON_HEADER", "DecPoint", ".");
+    expected += "[COMMON_HEADER]\r\nDecPoint=.\r\n";
+    expected += "[COMMON]\r\n";
+    for (const char* k : {"SamplingSpeed", "SamplingMode", "SamplingInterval", "HScrollPos"}) {
+        write("COMMON", k, std::string(k).substr(0, 3));
+        expected += std::string(k) + "=" + std::string(k).substr(0, 3) + "\r\n";
+    }
+    for (int ch = 1; ch <= 8; ++ch) {
+        const std::string sec = "CHANNEL_0" + std::to_string(ch);
+        expected += "[" + sec + "]\r\n";
+        for (const char* k : {"TargetNo", "Unit", "DecPoint"}) {
+            write(sec, k, std::to_string(ch));
+            expected += std::string(k) + "=" + std::to_string(ch) + "\r\n";
+        }
+    }
+    for (int g = 1; g <= 5; ++g) {
+        const std::string sec = "DATA_0" + std::to_string(g);
+        write(sec, "Comment", "graph " + std::to_string(g) + " ");
+        std::string appended = std::string(kDataHeader) + "=\r\n";
+        for (int i = 0; i < kLines; ++i)
+            appended += dataLine(g, i);
+        std::ofstream(file_, std::ios::binary | std::ios::app) << appended;
+        expected += "[" + sec + "]\r\nComment=graph " + std::to_string(g) + " \r\n" + appended;
+    }
+    ASSERT_EQ(bytes(), expected);
+
+    EXPECT_EQ(get("COMMON_HEADER", "DecPoint"), ".");
+    EXPECT_EQ(get("COMMON", "HscrollPos"), "HSc");
+    EXPECT_EQ(get("CHANNEL_08", "DecPoint"), "8");
+    for (int g = 1; g <= 5; ++g) {
+        const std::string sec = "DATA_0" + std::to_string(g);
+        EXPECT_EQ(getProfileString(sec, "Comment", "GetPrivateProfileReadError", file_, 12800),
+                  "graph " + std::to_string(g));
+    }
+    uint32_t returned = 7;
+    EXPECT_EQ(get("DATA_03", kDataHeader, "dflt", &returned), "");
+    EXPECT_EQ(returned, 0u);
+    EXPECT_EQ(get("DATA_05", "121,0,0,-312,0,0,0"), "dflt");
+    EXPECT_EQ(getProfileString("DATA_02", "", "", file_).size(), 0u);
+    EXPECT_EQ(get("DATA_04", nullptr),
+              "Comment" + std::string(1, '\0') + kDataHeader + std::string(1, '\0'));
+
+    // A keyed write after the tables changes only its own line.
+    write("COMMON", "SamplingMode", "1");
+    const std::string before = "SamplingMode=Sam\r\n";
+    expected.replace(expected.find(before), before.size(), "SamplingMode=1\r\n");
+    EXPECT_EQ(bytes(), expected);
+    EXPECT_EQ(get("DATA_05", "Comment"), "graph 5");
+}
+
+TEST_F(ProfileFileTest, OldSingleDataLayoutReads) {
+    std::string text =
+        "[COMMON_HEADER]\r\nDecPoint= , \r\n[COMMON]\r\nSamplingSpeed=1\r\n[DATA]\r\n";
+    text += std::string(kDataHeader) + "=\r\n";
+    for (int i = 0; i < 100; ++i)
+        text += dataLine(1, i);
+    put(text);
+    EXPECT_EQ(get("COMMON_HEADER", "DecPoint"), ",");
+    EXPECT_EQ(get("COMMON", "SamplingSpeed"), "1");
+    EXPECT_EQ(get("DATA", kDataHeader), "");
+    EXPECT_EQ(get("DATA_01", "Comment"), "dflt");
+    EXPECT_TRUE(writeProfileString("COMMON", "SamplingMode", "0", file_));
+    EXPECT_EQ(
+        bytes().substr(0, 80),
+        ("[COMMON_HEADER]\r\nDecPoint= , \r\n[COMMON]\r\nSamplingSpeed=1\r\nSamplingMode=0\r\n"
+         "[DATA]\r\n" +
+         std::string(kDataHeader))
+            .substr(0, 80));
+}
+
+}  // namespace
+}  // namespace zt::profile
