@@ -1,0 +1,21 @@
+#include "platform/ui/check_box.h"
+
+#include "platform/ui/control_error.h"
+
+namespace zt::ui {
+
+void CheckBox::setValue(int value) {
+    if (value < kUnchecked || value > kGrayed) throwInvalidPropertyValue();
+    if (value == value_) return;
+    value_ = value;
+    Click.raise();
+}
+
+bool CheckBox::click() {
+    if (!usable()) return false;
+    value_ = value_ == kChecked ? kUnchecked : kChecked;
+    Click.raise();
+    return true;
+}
+
+}  // namespace zt::ui

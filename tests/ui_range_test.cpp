@@ -1,0 +1,197 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/ui/control_error.h"
+#include "platform/ui/scroll_bar.h"
+#include "platform/ui/up_down.h"
+
+namespace zt::ui {
+namespace {
+
+struct ScrollLog {
+    HScrollBar bar{"hsbGraph"};
+    std::vector<std::string> log;
+    ScrollLog(int min, int max, int value) {
+        bar.setMin(min);
+        bar.setMax(max);
+        bar.setValue(value);
+        bar.SmallChange = 1;
+        bar.LargeChange = 5;
+        bar.Change.connect([this] { log.push_back("C" + std::to_string(bar.value())); });
+        bar.Scroll.connect([this] { log.push_back("S" + std::to_string(bar.value())); });
+    }
+};
+
+struct ScrollCase {
+    const char* name;
+    int min, max, start;
+    std::function<bool(HScrollBar&)> act;
+    int end;
+    std::vector<std::string> log;
+};
+
+class ScrollBarUserTest : public ::testing::TestWithParam<ScrollCase> {};
+
+TEST_P(ScrollBarUserTest, MovesClampedAndRaisesInOrder) {
+    const ScrollCase& c = GetParam();
+    ScrollLog s(c.min, c.max, c.start);
+    EXPECT_TRUE(c.act(s.bar));
+    EXPECT_EQ(s.bar.value(), c.end);
+    EXPECT_EQ(s.log, c.log);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Actions, ScrollBarUserTest,
+    ::testing::Values(
+        ScrollCase{"LineRight", 0, 20, 3, [](HScrollBar& b) { return b.lineRight(); }, 4, {"C4"}},
+        ScrollCase{"LineLeftAtMin", 0, 20, 0, [](HScrollBar& b) { return b.lineLeft(); }, 0, {}},
+        ScrollCase{"PageRightStopsAtMax",
+                   0,
+                   20,
+                   18,
+                   [](HScrollBar& b) { return b.pageRight(); },
+                   20,
+                   {"C20"}},
+        ScrollCase{
+            "PageLeftStopsAtMin", 0, 20, 2, [](HScrollBar& b) { return b.pageLeft(); }, 0, {"C0"}},
+        ScrollCase{"ReversedRangeRightGoesTowardMax",
+                   10,
+                   0,
+                   5,
+                   [](HScrollBar& b) { return b.lineRight(); },
+                   4,
+                   {"C4"}},
+        ScrollCase{"DragScrollsThenChangesOnce",
+                   0,
+                   20,
+                   0,
+                   [](HScrollBar& b) {
+                       return b.drag({3, 3, 7, 99});
+                   },
+                   20,
+                   {"S3", "S7", "S20", "C20"}},
+        ScrollCase{"DragBackToStartRaisesNoChange",
+                   0,
+                   20,
+                   5,
+                   [](HScrollBar& b) {
+                       return b.drag({8, 5});
+                   },
+                   5,
+                   {"S8", "S5"}},
+        ScrollCase{"DragBelowMinClamps",
+                   0,
+                   20,
+                   5,
+                   [](HScrollBar& b) { return b.dragTo(-40); },
+                   0,
+                   {"S0", "C0"}}),
+    [](const auto& p) { return std::string(p.param.name); });
+
+TEST(ScrollBarTest, CodeChangeRaisesChangeOnlyAndRefusesOutOfRange) {
+    ScrollLog s(0, 10, 0);
+    s.bar.setValue(10);
+    s.bar.setValue(10);
+    try {
+        s.bar.setValue(11);
+        ADD_FAILURE();
+    } catch (const AutomationError& e) {
+        EXPECT_EQ(e.code(), kErrInvalidPropertyValue);
+    }
+    EXPECT_THROW(s.bar.setValue(-1), AutomationError);
+    EXPECT_EQ(s.log, (std::vector<std::string>{"C10"}));
+}
+
+TEST(ScrollBarTest, ShrinkingTheRangePullsTheValueBackWithChange) {
+    ScrollLog s(0, 30, 25);
+    s.bar.setMax(12);
+    EXPECT_EQ(s.bar.value(), 12);
+    s.bar.setMax(40);
+    EXPECT_EQ(s.bar.value(), 12);
+    EXPECT_EQ(s.log, (std::vector<std::string>{"C12"}));
+    EXPECT_THROW(s.bar.setMax(40000), AutomationError);
+    EXPECT_THROW(s.bar.setMin(-40000), AutomationError);
+    EXPECT_EQ(s.bar.Max(), 40);
+}
+
+TEST(ScrollBarTest, StepsBelowOneCountAsOneAndHugeStepsClamp) {
+    ScrollLog s(-32768, 32767, 0);
+    s.bar.SmallChange = 0;
+    s.bar.LargeChange = 2147483647;
+    s.bar.lineRight();
+    EXPECT_EQ(s.bar.value(), 1);
+    s.bar.pageRight();
+    EXPECT_EQ(s.bar.value(), 32767);
+    s.bar.pageLeft();
+    EXPECT_EQ(s.bar.value(), -32768);
+}
+
+struct SpinCase {
+    const char* name;
+    int min, max, start, increment;
+    bool wrap;
+    bool up;
+    int end;
+    std::vector<std::string> log;
+};
+
+class UpDownClickTest : public ::testing::TestWithParam<SpinCase> {};
+
+TEST_P(UpDownClickTest, MovesWithinBoundsAndReportsTheClick) {
+    const SpinCase& c = GetParam();
+    UpDown u("updZero");
+    u.setMin(c.min);
+    u.setMax(c.max);
+    u.setValue(c.start);
+    u.Increment = c.increment;
+    u.Wrap = c.wrap;
+    std::vector<std::string> log;
+    u.Change.connect([&] { log.push_back("C" + std::to_string(u.value())); });
+    u.UpClick.connect([&] { log.push_back("Up"); });
+    u.DownClick.connect([&] { log.push_back("Down"); });
+    EXPECT_TRUE(c.up ? u.clickUp() : u.clickDown());
+    EXPECT_EQ(u.value(), c.end);
+    EXPECT_EQ(log, c.log);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Clicks, UpDownClickTest,
+    ::testing::Values(
+        SpinCase{"Up", 0, 10, 4, 1, false, true, 5, {"C5", "Up"}},
+        SpinCase{"Down", 0, 10, 4, 1, false, false, 3, {"C3", "Down"}},
+        SpinCase{"UpAtMaxStays", 0, 10, 10, 1, false, true, 10, {"Up"}},
+        SpinCase{"DownAtMinStays", 0, 10, 0, 1, false, false, 0, {"Down"}},
+        SpinCase{"UpPastMaxStopsAtMax", 0, 10, 9, 3, false, true, 10, {"C10", "Up"}},
+        SpinCase{"UpAtMaxWraps", 0, 10, 10, 1, true, true, 0, {"C0", "Up"}},
+        SpinCase{"DownAtMinWraps", 0, 10, 0, 1, true, false, 10, {"C10", "Down"}},
+        SpinCase{"ReversedRangeUpGoesTowardMax", 10, 0, 5, 1, false, true, 4, {"C4", "Up"}},
+        SpinCase{"NegativeIncrementTakesItsSize", 0, 10, 5, -2, false, true, 7, {"C7", "Up"}},
+        SpinCase{"ExtremeRangeDoesNotOverflow",
+                 -2147483647 - 1,
+                 2147483647,
+                 2147483647,
+                 2147483647,
+                 false,
+                 true,
+                 2147483647,
+                 {"Up"}}),
+    [](const auto& p) { return std::string(p.param.name); });
+
+TEST(UpDownTest, CodeValueRaisesChangeAndOutOfRangeIsRefused) {
+    UpDown u("updZero");
+    int changes = 0;
+    u.Change.connect([&] { ++changes; });
+    u.setValue(7);
+    u.setValue(7);
+    EXPECT_THROW(u.setValue(11), AutomationError);
+    EXPECT_THROW(u.setValue(-1), AutomationError);
+    u.setMax(5);
+    EXPECT_EQ(u.value(), 5);
+    EXPECT_EQ(changes, 2);
+}
+
+}  // namespace
+}  // namespace zt::ui

@@ -1,0 +1,232 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/ui/combo_box.h"
+#include "platform/ui/control_error.h"
+#include "platform/ui/text_box.h"
+
+namespace zt::ui {
+namespace {
+
+// Records the events of a text box as "K<code>" and "C<text>".
+struct TextBoxLog {
+    TextBox box{"txtComment"};
+    std::vector<std::string> log;
+    TextBoxLog() {
+        box.KeyPress.connect([this](int& k) { log.push_back("K" + std::to_string(k)); });
+        box.Change.connect([this] { log.push_back("C" + box.text()); });
+    }
+};
+
+TEST(TextBoxTest, TypingRaisesKeyPressThenChangePerCharacter) {
+    TextBoxLog t;
+    EXPECT_TRUE(t.box.type("ab"));
+    EXPECT_EQ(t.log, (std::vector<std::string>{"K97", "Ca", "K98", "Cab"}));
+    EXPECT_EQ(t.box.SelStart(), 2);
+}
+
+TEST(TextBoxTest, CodeChangeRaisesChangeOnlyWhenTheTextDiffers) {
+    TextBoxLog t;
+    t.box.setText("x");
+    t.box.setText("x");
+    t.box.setText("");
+    EXPECT_EQ(t.log, (std::vector<std::string>{"Cx", "C"}));
+}
+
+TEST(TextBoxTest, KeyPressHandlerCancelsOrReplacesKeys) {
+    TextBox box("txtComment");
+    box.KeyPress.connect([](int& k) {
+        if (k == '-') k = 0;
+        if (k == 'a') k = 'A';
+    });
+    box.type("a-b");
+    EXPECT_EQ(box.text(), "Ab");
+}
+
+TEST(TextBoxTest, LockedBoxRaisesKeyPressButKeepsItsText) {
+    TextBoxLog t;
+    t.box.setText("keep");
+    t.log.clear();
+    t.box.Locked = true;
+    EXPECT_FALSE(t.box.type("z"));
+    EXPECT_FALSE(t.box.pressKey(kKeyBack));
+    EXPECT_EQ(t.box.text(), "keep");
+    EXPECT_EQ(t.log, (std::vector<std::string>{"K122", "K8"}));
+}
+
+TEST(TextBoxTest, MaxLengthStopsTypingButNotCode) {
+    TextBox box("txtComment");
+    box.MaxLength = 3;
+    box.type("abcdef");
+    EXPECT_EQ(box.text(), "abc");
+    box.setText("longer than three");
+    EXPECT_EQ(box.text(), "longer than three");
+}
+
+TEST(TextBoxTest, TypingReplacesTheSelectionAndBackspaceDeletes) {
+    TextBox box("txtComment");
+    box.setText("hello world");
+    box.setSelStart(6);
+    box.setSelLength(5);
+    EXPECT_EQ(box.SelText(), "world");
+    box.type("there");
+    EXPECT_EQ(box.text(), "hello there");
+    box.pressKey(kKeyBack);
+    box.pressKey(kKeyBack);
+    EXPECT_EQ(box.text(), "hello the");
+    box.setSelStart(0);
+    box.pressKey(kKeyBack);  // nothing before the caret
+    box.pressKey(kKeyReturn);
+    EXPECT_EQ(box.text(), "hello the");
+}
+
+TEST(TextBoxTest, PositionsCountCharactersNotBytes) {
+    TextBox box("txtComment");
+    box.type("\xC3\xA9t\xC3\xA9");  // "été"
+    EXPECT_EQ(box.SelStart(), 3);
+    box.pressKey(kKeyBack);
+    EXPECT_EQ(box.text(), "\xC3\xA9t");
+    box.pressKey(0x65E5);  // a CJK character by its code
+    EXPECT_EQ(box.text(), "\xC3\xA9t\xE6\x97\xA5");
+}
+
+TEST(TextBoxTest, OutOfRangeSelectionAndBadKeysAreHarmless) {
+    TextBox box("txtComment");
+    box.setText("abc");
+    box.setSelStart(-5);
+    box.setSelLength(99);
+    EXPECT_EQ(box.SelText(), "abc");
+    box.setSelStart(99);
+    EXPECT_EQ(box.SelStart(), 3);
+    for (int bad : {-1, 0xD800, 0x110000, 127, 27})
+        box.pressKey(bad);
+    EXPECT_EQ(box.text(), "abc");
+    box.setText("\x80\xFF");  // not UTF-8: each stray byte is one character
+    box.setSelStart(1);
+    box.pressKey(kKeyBack);
+    EXPECT_EQ(box.text(), "\xFF");
+}
+
+TEST(TextBoxTest, SelTextInCodeReplacesTheSelection) {
+    TextBoxLog t;
+    t.box.setText("abc");
+    t.box.setSelStart(1);
+    t.box.setSelLength(1);
+    t.log.clear();
+    t.box.setSelText("XY");
+    EXPECT_EQ(t.box.text(), "aXYc");
+    EXPECT_EQ(t.box.SelStart(), 3);
+    EXPECT_EQ(t.log, (std::vector<std::string>{"CaXYc"}));
+}
+
+// --- Combo box ---
+
+struct ComboLog {
+    ComboBox box;
+    std::vector<std::string> log;
+    explicit ComboLog(ComboStyle style = ComboStyle::DropDownCombo)
+        : box("cboHorzScale", -1, style) {
+        for (const char* item : {"100", "50", "20", "10"})
+            box.AddItem(item);
+        box.Click.connect([this] { log.push_back("Click" + std::to_string(box.ListIndex())); });
+        box.Change.connect([this] { log.push_back("Change " + box.text()); });
+    }
+};
+
+TEST(ComboBoxTest, ListIndexInCodeClicksOnChangeAndShowsTheItem) {
+    ComboLog c;
+    c.box.setListIndex(2);
+    c.box.setListIndex(2);
+    EXPECT_EQ(c.box.text(), "20");
+    c.box.setListIndex(-1);
+    EXPECT_EQ(c.box.text(), "");
+    EXPECT_EQ(c.log, (std::vector<std::string>{"Click2", "Click-1"}));
+}
+
+TEST(ComboBoxTest, ListIndexOutsideTheListIsInvalidPropertyValue) {
+    ComboLog c;
+    c.box.setListIndex(1);
+    for (int bad : {-2, 4, 1000}) {
+        try {
+            c.box.setListIndex(bad);
+            ADD_FAILURE() << bad;
+        } catch (const AutomationError& e) {
+            EXPECT_EQ(e.code(), kErrInvalidPropertyValue);
+        }
+    }
+    EXPECT_EQ(c.box.ListIndex(), 1);
+    EXPECT_EQ(c.log.size(), 1u);
+}
+
+TEST(ComboBoxTest, PersonPickingClicksEveryTimeWithoutChange) {
+    ComboLog c;
+    EXPECT_TRUE(c.box.select(1));
+    EXPECT_TRUE(c.box.select(1));
+    EXPECT_FALSE(c.box.select(4));
+    EXPECT_FALSE(c.box.select(-1));
+    EXPECT_EQ(c.log, (std::vector<std::string>{"Click1", "Click1"}));
+    EXPECT_EQ(c.box.text(), "50");
+}
+
+TEST(ComboBoxTest, TypingRaisesChangeAndMatchesAnItemWithoutClick) {
+    ComboLog c;
+    c.box.setListIndex(0);
+    c.log.clear();
+    std::vector<int> keys;
+    c.box.KeyPress.connect([&](int& k) { keys.push_back(k); });
+    EXPECT_TRUE(c.box.enter("5"));
+    EXPECT_TRUE(c.box.type("0"));
+    EXPECT_EQ(c.box.ListIndex(), 1);
+    EXPECT_TRUE(c.box.type("0"));
+    EXPECT_EQ(c.box.ListIndex(), -1);
+    EXPECT_TRUE(c.box.pressKey(kKeyReturn));
+    EXPECT_EQ(keys, (std::vector<int>{'5', '0', '0', kKeyReturn}));
+    EXPECT_EQ(c.log, (std::vector<std::string>{"Change 5", "Change 50", "Change 500"}));
+}
+
+TEST(ComboBoxTest, SetTextOnAComboRaisesChangeOnlyWhenItDiffers) {
+    ComboLog c;
+    c.box.setText("12.5");
+    c.box.setText("12.5");
+    EXPECT_EQ(c.box.ListIndex(), -1);
+    EXPECT_EQ(c.log, (std::vector<std::string>{"Change 12.5"}));
+}
+
+TEST(ComboBoxTest, DropDownListTextFollowsTheSelectionOnly) {
+    ComboLog c(ComboStyle::DropDownList);
+    c.box.setText("10");
+    EXPECT_EQ(c.box.ListIndex(), 3);
+    EXPECT_THROW(c.box.setText("7"), AutomationError);
+    EXPECT_TRUE(c.box.type("5"));
+    EXPECT_EQ(c.box.text(), "10");
+    c.box.RemoveItem(3);
+    EXPECT_EQ(c.box.ListIndex(), -1);
+    EXPECT_EQ(c.box.text(), "");
+    EXPECT_EQ(c.log, (std::vector<std::string>{"Click3"}));
+}
+
+TEST(ComboBoxTest, ListEditingKeepsTheSelectionOnItsItemAndRaisesNothing) {
+    ComboLog c;
+    c.box.setListIndex(1);  // "50"
+    c.log.clear();
+    c.box.AddItem("200", 0);
+    EXPECT_EQ(c.box.ListIndex(), 2);
+    c.box.RemoveItem(0);
+    EXPECT_EQ(c.box.ListIndex(), 1);
+    EXPECT_EQ(c.box.List(1), "50");
+    EXPECT_EQ(c.box.List(4), "");
+    EXPECT_EQ(c.box.List(-1), "");
+    EXPECT_THROW(c.box.AddItem("x", 9), AutomationError);
+    EXPECT_THROW(c.box.RemoveItem(4), AutomationError);
+    EXPECT_THROW(c.box.setList(-1, "x"), AutomationError);
+    c.box.Clear();
+    EXPECT_EQ(c.box.ListCount(), 0);
+    EXPECT_EQ(c.box.ListIndex(), -1);
+    EXPECT_EQ(c.box.text(), "");
+    EXPECT_TRUE(c.log.empty());
+}
+
+}  // namespace
+}  // namespace zt::ui
