@@ -1,0 +1,25 @@
+// Small value types shared by the chart's objects: colours, pens, the lookup error.
+#pragma once
+
+#include <cstdint>
+
+namespace zt::chart {
+
+// A colour as 0x00BBGGRR (red in the low byte).
+using Color = int32_t;
+
+enum class PenStyle : int16_t {
+    Solid = 0,
+    Null = 5,  // nothing is drawn
+};
+
+struct Pen {
+    Color color = 0xFFFFFF;
+    PenStyle style = PenStyle::Solid;
+    int32_t width = 1;
+};
+
+// Error code of a lookup of a name a collection does not hold (invalid index).
+inline constexpr int32_t kErrorNoSuchObject = static_cast<int32_t>(0x8002000B);
+
+}  // namespace zt::chart
