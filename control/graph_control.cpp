@@ -1,0 +1,188 @@
+#include "control/graph_control.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "control/ini_file_access.h"
+#include "graph/channel_colors.h"
+#include "graph/surface_layout.h"
+
+namespace zt {
+
+namespace {
+
+// A size that is not a number or below the minimum becomes the minimum.
+float clampedSize(float value) {
+    if (!(value >= kMinControlSize)) return kMinControlSize;
+    return value;
+}
+
+}  // namespace
+
+ztGraphControl::ztGraphControl(CommonLibrary& library, HostEnvironment environment)
+    : env_(std::move(environment)), host_(library, Font{}) {
+    initialize();
+}
+
+ztGraphControl::~ztGraphControl() = default;
+
+void ztGraphControl::initialize() {
+    GraphSurface& s = surface_;
+
+    // 1. The setting sheets start hidden, with drawing off, until they are built.
+    for (ui::SpreadSheet* sheet : {&s.sprChannel, &s.sprTrigger, &s.sprSampling}) {
+        sheet->Visible = false;
+        sheet->SetReDraw(false);
+    }
+
+    // 2. Version record and help context id.
+    state_.version = GRAPH_VERSION_INFO{"1.00", 5};
+    state_.helpContextId = kHelpContextId;
+
+    // 3. Storage is sized by the state records themselves (10,000 values, times and sample
+    // records per channel and slot, 32 stations).
+
+    // 4. The common library's objects are created on first use: the first text asks for them.
+    // 6. Run buttons.
+    placeRunButtons(s, host_);
+
+    // 7. Scale controls.
+    setUpScaleControls(s, host_);
+
+    // 8. Default channel colours.
+    for (int ch = 1; ch <= kChannelCount; ++ch) {
+        state_.chSetting[ch].intChNo = static_cast<int16_t>(ch);
+        state_.chSetting[ch].lngGraphColor = kDefaultChannelColor[ch];
+    }
+
+    // 11. Scroll bar, scale option "All", cursor controls.
+    setUpCursorControls(s, host_);
+
+    // 12. History cleared; no channel has a station.
+    for (auto& slot : state_.history.udtGraphResultInfo) {
+        std::fill(slot.udtSample.begin(), slot.udtSample.end(), SampleRecord{});
+    }
+    for (int ch = 1; ch <= kChannelCount; ++ch)
+        state_.chSetting[ch].lngTargetNo = kNoStation;
+
+    // 13. Sheet tabs, channel sheet shown.
+    buildSheetTabs(s, host_);
+
+    // 14, 15. Operation panel, showing the "Scale" panel.
+    buildOperationPanel(s, host_, state_.version.lngHistoryMax);
+    s.tbsGraphOp.Click.connect([this] { showSelectedPanel(surface_); });
+    s.tabSpread.Click.connect([this] { showSelectedSheets(surface_); });
+    s.tbsGraphOp.MouseMove.connect([this](int16_t button, int16_t, float x, float y) {
+        host_.common().TabMouseMove(
+            "tbsGraphOp", button, static_cast<float>(x / static_cast<float>(env_.twipsPerPixelX)),
+            static_cast<float>(y / static_cast<float>(env_.twipsPerPixelY)));
+    });
+    s.tabSpread.MouseMove.connect([this](int16_t button, int16_t, float x, float y) {
+        host_.common().TabMouseMove(
+            "tabSpread", button, static_cast<float>(x / static_cast<float>(env_.twipsPerPixelX)),
+            static_cast<float>(y / static_cast<float>(env_.twipsPerPixelY)));
+    });
+    s.tbsGraphOp.select(1);
+    showSelectedPanel(s);
+
+    // 17. Names of the built-in two-channel items.
+    state_.twoChannelItemNames = {host_.text(msg::kPositionCommand),
+                                  host_.text(msg::kCurrentPosition), host_.text(msg::kDroopPulse)};
+
+    // The built-in settings-file record: 19200 baud, everything else 0.
+    INIFILE_ITEM builtIn;
+    builtIn.lngData[1] = 19200;
+    SetIniFileItem(builtIn);
+
+    state_.runState = 0;
+    Resize();
+}
+
+void ztGraphControl::Show() {
+    // The vertical-scale display follows the selected channel; nothing to redraw until the
+    // scale labels exist.
+}
+
+void ztGraphControl::Resize() {
+    width_ = clampedSize(width_);
+    height_ = clampedSize(height_);
+    resizeSurface(surface_, width_, height_, env_);
+}
+
+void ztGraphControl::Terminate() {
+    // Saves nothing and raises nothing; the references it held are dropped with the control.
+    ReqCommand.disconnect();
+    terminated_ = true;
+}
+
+bool ztGraphControl::GetInifileString(const std::string& IniFile, const std::string& iniSection,
+                                      const std::string& iniEntry, std::string& iniBuff) {
+    return zt::GetInifileString(IniFile, iniSection, iniEntry, iniBuff, env_.locale.codePage);
+}
+
+bool ztGraphControl::SetInifileString(const std::string& IniFile, const std::string& iniSection,
+                                      const std::string& iniEntry, std::string& iniBuff) {
+    return zt::SetInifileString(IniFile, iniSection, iniEntry, iniBuff, env_.locale.codePage);
+}
+
+void ztGraphControl::SetMsgItem(std::vector<MSG_ITEM>& udtMsgItem) {
+    state_.msgItems = udtMsgItem;
+}
+
+void ztGraphControl::SetIniFileItem(INIFILE_ITEM& udtIniFileItem) {
+    state_.iniFileItem = udtIniFileItem;
+}
+
+void ztGraphControl::SetParameter(int16_t, MODEL_INFO&, PARAMETER_INFO&) {}
+
+PARAMETER_INFO ztGraphControl::GetParameter() {
+    return {};
+}
+
+void ztGraphControl::ChgSelectNode(int16_t) {}
+
+// The control never vetoes unloading: Cancel is left as it is.
+void ztGraphControl::QueryUnLoadU(int16_t&, int16_t) {}
+
+// The control uses the common-library objects it creates itself.
+void ztGraphControl::setCommonObj(ztCommon*) {}
+
+void ztGraphControl::HeightU(float value) {
+    height_ = clampedSize(value);
+    Resize();
+}
+
+void ztGraphControl::WidthU(float value) {
+    width_ = clampedSize(value);
+    Resize();
+}
+
+std::string ztGraphControl::CaptionU() {
+    return host_.text(msg::kGraph);
+}
+
+void ztGraphControl::GetHelpContextId(int32_t& lngHelpID, int32_t& lngModel_Type,
+                                      int32_t& lngCapa_region, int16_t& intOption,
+                                      int32_t& lngSp_Model) {
+    lngHelpID = state_.helpContextId;
+    lngModel_Type = -1;
+    lngCapa_region = -1;
+    intOption = -1;
+    lngSp_Model = -1;
+}
+
+std::string ztGraphControl::ImportFileFilterU() {
+    return host_.text(msg::kImportFilter);
+}
+
+std::string ztGraphControl::ExportFileFilterU() {
+    return host_.text(msg::kExportFilter);
+}
+
+void ztGraphControl::CtrlFlagU(int32_t) {}
+
+void ztGraphControl::FontU(const Font&) {}
+
+void ztGraphControl::setContainerInfo(CONT_INFO&) {}
+
+}  // namespace zt
