@@ -1,0 +1,16 @@
+// Sub-commands of the ztgraph command-line program. Each takes its own arguments (after the
+// command name) and writes what a person would see to `out`; the result is the exit status.
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace zt::cli {
+
+using Args = std::vector<std::string>;
+
+// Builds the control on the simulated host and prints its surface.
+int runShow(const Args& args, std::ostream& out, std::ostream& err);
+
+}  // namespace zt::cli

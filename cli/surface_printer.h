@@ -1,0 +1,13 @@
+// Prints the component as a person sees it: caption, size, run state, run buttons and sheet
+// tabs.
+#pragma once
+
+#include <ostream>
+
+#include "control/graph_control.h"
+
+namespace zt::cli {
+
+void printControl(ztGraphControl& control, std::ostream& out);
+
+}  // namespace zt::cli
