@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "config/settings_model.h"
+#include "graph/graph_info.h"
 #include "platform/host_records.h"
 #include "platform/zt_common.h"
 #include "run/samp_data.h"
@@ -48,7 +49,7 @@ struct GraphState {
     GRAPH_VERSION_INFO version;
 
     // Display.
-    int16_t selectedScaleChannel = 0;  // 0 = none
+    GRAPHINFO graphInfo;
     // Names of the built-in two-channel position items.
     std::array<std::string, 3> twoChannelItemNames;
 
