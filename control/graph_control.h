@@ -105,6 +105,7 @@ class ztGraphControl {
     GraphSurface& surface() { return surface_; }
     const GraphSurface& surface() const { return surface_; }
     const GraphState& state() const { return state_; }
+    GraphState& state() { return state_; }
     const HostEnvironment& environment() const { return env_; }
     int16_t runState() const { return state_.runState; }
     bool terminated() const { return terminated_; }
