@@ -60,6 +60,7 @@ void SweepCapture::store(SampleRecord& record, bool completing) const {
 
 // Adds a record to the graph; true when it completes the sweep.
 bool SweepCapture::append(SampleRecord record) {
+    if (count_ >= kGraphRecords) return true;
     const int64_t time = count_ > 0 ? graphTime_ + record.lngDiffTime : graphTime_;
     const bool complete =
         static_cast<double>(time) > setup_.samplingTime || count_ + 1 >= kGraphRecords;
