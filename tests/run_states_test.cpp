@@ -141,3 +141,22 @@ TEST(ClearButton, CancelledDeletionKeepsTheGraph) {
 
 }  // namespace
 }  // namespace zt::testing
+
+namespace zt::testing {
+namespace {
+
+TEST(SysInfo, ChannelOnAStationThatIsNotPresentLosesItsStation) {
+    RunFixture f;
+    f.setChannel(1, 1, 201);
+    f.setChannel(2, 4, 202);  // no drive on station 4
+    SYS_INFO sys = f.lib.sim().link().sysInfo();
+    PARAMETER_INFO parameter;
+    f.control.SetSysInfo(2, sys, parameter);
+    EXPECT_EQ(f.control.state().chSetting[1].lngTargetNo, 1);
+    EXPECT_EQ(f.control.state().chSetting[2].lngTargetNo, kNoStation);
+    EXPECT_EQ(f.control.ReturnChCount(), 1);
+    EXPECT_EQ(f.control.getChNode(), 1);
+}
+
+}  // namespace
+}  // namespace zt::testing
