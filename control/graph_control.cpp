@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "control/comm_error_text.h"
 #include "control/ini_file_access.h"
 #include "graph/channel_colors.h"
 #include "graph/surface_layout.h"
+#include "run/channel_rules.h"
 
 namespace zt {
 
@@ -20,7 +22,9 @@ float clampedSize(float value) {
 }  // namespace
 
 ztGraphControl::ztGraphControl(CommonLibrary& library, HostEnvironment environment)
-    : env_(std::move(environment)), host_(library, Font{}) {
+    : env_(std::move(environment)),
+      host_(library, Font{}),
+      run_(state_, surface_, host_, [this](int32_t command) { ReqCommand.raise(command); }) {
     initialize();
 }
 
@@ -45,6 +49,9 @@ void ztGraphControl::initialize() {
     // 4. The common library's objects are created on first use: the first text asks for them.
     // 6. Run buttons.
     placeRunButtons(s, host_);
+    s.cmdStart.Click.connect([this] { run_.cmdStart_Click(); });
+    s.cmdStop.Click.connect([this] { run_.cmdStop_Click(); });
+    s.cmdClear.Click.connect([this] { run_.cmdClear_Click(); });
 
     // 7. Scale controls.
     setUpScaleControls(s, host_);
@@ -184,5 +191,62 @@ void ztGraphControl::CtrlFlagU(int32_t) {}
 void ztGraphControl::FontU(const Font&) {}
 
 void ztGraphControl::setContainerInfo(CONT_INFO&) {}
+
+void ztGraphControl::advise(GraphHostSink* sink) {
+    if (sink == nullptr) {
+        ReqCommand.disconnect();
+        return;
+    }
+    ReqCommand.connect([sink](int32_t command) { sink->ReqCommand(command); });
+}
+
+int16_t ztGraphControl::ReturnChCount() {
+    return channelsInUse(state_.chSetting);
+}
+
+int16_t ztGraphControl::getChNode() {
+    return lowestChannelStation(state_.chSetting);
+}
+
+void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER_INFO&) {
+    state_.selectedNode = intNode;
+    int32_t value = 0, count = 0;
+    host_.common().FillStationTable(state_.stations, udtSysInfo, value, count);
+    if (count < 1) return;
+    const std::size_t n = std::min(udtSysInfo.udtStation.size(), state_.stations.size());
+    for (std::size_t i = 0; i < n; ++i) {
+        const STATION_RECORD& from = udtSysInfo.udtStation[i];
+        STATION_RECORD& to = state_.stations[i];
+        to.intStationNo = from.intStationNo;
+        to.lngModelCode = from.lngModelCode;
+        to.lngCapacity = from.lngCapacity;
+        to.lngRegion = from.lngRegion;
+        to.lngSpModel = from.lngSpModel;
+    }
+    // A channel whose station is no longer present loses its station.
+    for (int ch = 1; ch <= kChannelCount; ++ch) {
+        CHSETTING& c = state_.chSetting[static_cast<std::size_t>(ch)];
+        if (c.lngTargetNo >= 0 && c.lngTargetNo < kStationCount &&
+            !state_.stations[static_cast<std::size_t>(c.lngTargetNo)].present())
+            c.lngTargetNo = kNoStation;
+    }
+    if (refreshChannelSheetHook) refreshChannelSheetHook();
+    if (clearPlotSeriesHook) clearPlotSeriesHook();
+    callHook(run_.hooks().redrawVertScaleLabels);
+    if (resetCursorsHook) resetCursorsHook();
+    run_.changeRunState(DataDeleted);
+}
+
+void ztGraphControl::SetSysStatus(int16_t, SYS_INFO&, INV_STATUS&) {
+    for (auto& box : surface_.chkOverWrite) {
+        const int slot = box.Index() + 1;
+        if (slot < kHistorySlots && box.Index() < state_.version.lngHistoryMax)
+            box.ToolTipText = state_.history.strTimeStamps[static_cast<std::size_t>(slot)];
+    }
+}
+
+void ztGraphControl::showComErrDlg(int32_t lngNode, int32_t lngErrCode) {
+    zt::showComErrDlg(host_, lngNode, lngErrCode);
+}
 
 }  // namespace zt

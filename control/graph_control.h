@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,9 +12,11 @@
 #include "control/graph_surface.h"
 #include "control/host_services.h"
 #include "platform/common_library.h"
+#include "platform/graph_host_interface.h"
 #include "platform/host_locale.h"
 #include "platform/host_records.h"
 #include "platform/ui/event.h"
+#include "run/run_control.h"
 
 namespace zt {
 
@@ -32,6 +35,8 @@ class ztGraphControl {
 
     // The one event: 77 asks the host to start sampling, 78 to stop.
     ui::Event<int32_t> ReqCommand;
+    // Connects the host's event sink (nullptr disconnects); ReqCommand then reaches it.
+    void advise(GraphHostSink* sink);
 
     // Public members.
     bool m_blnStartErr() const { return state_.startErr; }
@@ -63,10 +68,44 @@ class ztGraphControl {
     void FontU(const Font& font);
     void setContainerInfo(CONT_INFO& udtContInfo);
 
+    // Sampling runs and the host exchange.
+    int16_t ReturnChCount();
+    int16_t getChNode();
+    void SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER_INFO& udtParameter);
+    void SetSysStatus(int16_t intNode, SYS_INFO& udtSysInfo, INV_STATUS& udtInvStatus);
+    void ChgLineStatus(int16_t intstatus) { run_.ChgLineStatus(intstatus); }
+    void SetSamplingData(GRAPH_RESULT_INFO& udtGraphResultInfo, int32_t lngErrCode) {
+        run_.SetSamplingData(udtGraphResultInfo, lngErrCode);
+    }
+    // The result is an empty VARIANT.
+    void SetGraphRequest(GRAPH_REQUEST& udtGraphRequest) { run_.SetGraphRequest(udtGraphRequest); }
+    GRAPH_REQUEST GetGraphRequest() { return run_.GetGraphRequest(); }
+    void EventResCommand(int32_t lngResult) { run_.EventResCommand(lngResult); }
+    void showComErrDlg(int32_t lngNode, int32_t lngErrCode);
+
+    // Members whose subsystems are wired separately (item tables, printing, files, colours).
+    void SetMonitorItem(MONI_ITEM& udtMoniItem, int32_t lngCh);
+    void PrintOut(PrinterObject* objPrinter);
+    int16_t ImportFile(const std::string& strFileName, SYS_INFO& udtSysInfo);
+    int16_t ExportFile(const std::string& strFileName);
+    int16_t SaveKivFile(const std::string& strFileName, VERSION_INFO& udtVersion);
+    int16_t LoadKivFile(const std::string& strFileName, VERSION_INFO& udtVersion,
+                        PROGRAM_VERSION& udtProgramVersion);
+    void SetGraphColor(int32_t lngMode);
+
+    // Run control and the hooks through which it reaches the other subsystems.
+    RunControl& run() { return run_; }
+    // Hooks of SetSysInfo: rewrite the channel sheet's station cells and rows and refresh the
+    // sheets; clear the plotted series; reset both cursors.
+    std::function<void()> refreshChannelSheetHook;
+    std::function<void()> clearPlotSeriesHook;
+    std::function<void()> resetCursorsHook;
+
     // What a person and a test can see and touch.
     GraphSurface& surface() { return surface_; }
     const GraphSurface& surface() const { return surface_; }
     const GraphState& state() const { return state_; }
+    GraphState& state() { return state_; }
     const HostEnvironment& environment() const { return env_; }
     int16_t runState() const { return state_.runState; }
     bool terminated() const { return terminated_; }
@@ -78,6 +117,7 @@ class ztGraphControl {
     HostServices host_;
     GraphState state_;
     GraphSurface surface_;
+    RunControl run_;
     float width_ = kMinControlSize;
     float height_ = kMinControlSize;
     bool terminated_ = false;

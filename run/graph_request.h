@@ -1,0 +1,29 @@
+// The request record of a sampling run: built from the settings for the host, and taken back
+// with the host's units, decimal places and base values.
+#pragma once
+
+#include <cstdint>
+
+#include "config/settings_model.h"
+#include "control/graph_state.h"
+#include "platform/host_records.h"
+#include "platform/zt_common.h"
+
+namespace zt {
+
+// Rebuilds `request` from the settings: counts, items and targets of the channels in use,
+// the trigger and sampling fields; the host's fields and offsets 84, 92 and 96 are cleared,
+// offset 88 is kept.
+void buildGraphRequest(GRAPH_REQUEST& request, const SAMPSETTING& setting,
+                       const ChannelSettings& channels);
+
+// Base value of an analog item as the plot uses it. `model057`: the station's model code has
+// 0x057 in its top 12 bits.
+int32_t convertedBaseValue(int32_t itemCode, int32_t value, int16_t unit, bool model057,
+                           bool directValue);
+
+// Takes the host's completed record back: direct-value flags of the eight channels, units,
+// decimal places and converted base values of the four analog channels, offset 42.
+void takeGraphRequest(GraphState& state, ztCommon& common, const GRAPH_REQUEST& completed);
+
+}  // namespace zt

@@ -1,0 +1,97 @@
+#include "sim/sim_host.h"
+
+#include <algorithm>
+
+#include "sim/drive_catalogue.h"
+
+namespace zt::sim {
+
+namespace {
+
+constexpr int32_t kDispStartErr = 0x4003003A;
+constexpr int32_t kDispSetSamplingData = 0x6003007A;
+constexpr int32_t kDispSetGraphRequest = 0x6003007E;
+constexpr int32_t kDispGetGraphRequest = 0x6003007F;
+
+}  // namespace
+
+DispatchResult SimHost::call(int32_t dispId, DispatchKind kind, std::vector<DispatchValue>& args) {
+    DispatchResult r = invoke_(dispId, kind, args);
+    if (!r.ok()) errors_.push_back(r);
+    return r;
+}
+
+void SimHost::script(std::vector<SampleRecord> records) {
+    script_ = std::move(records);
+    scriptPos_ = 0;
+}
+
+void SimHost::ReqCommand(int32_t command) {
+    commands_.push_back(command);
+    if (command == 77) start();
+    if (command == 78) sampling_ = false;
+}
+
+void SimHost::start() {
+    std::vector<DispatchValue> none;
+    DispatchResult got = call(kDispGetGraphRequest, DispatchKind::Method, none);
+    if (const auto* req = std::get_if<GRAPH_REQUEST>(&got.value)) request_ = *req;
+
+    for (std::size_t k = 0; k < 4; ++k) {
+        const AnalogItemDef* item = findAnalogItem(request_.intAnalogItem[k]);
+        request_.intUnit[k] = item ? static_cast<int16_t>(item->unitCode) : int16_t{0};
+        request_.intDecPoint[k] = item ? static_cast<int16_t>(item->decimals) : int16_t{0};
+        request_.lngBaseValue[k] = item ? item->fullScale : 0;
+    }
+    std::vector<DispatchValue> args{request_};
+    call(kDispSetGraphRequest, DispatchKind::Method, args);
+
+    if (refuseStart) {
+        std::vector<DispatchValue> flag{true};
+        call(kDispStartErr, DispatchKind::PropertyPut, flag);
+        return;
+    }
+    interval_ = request_.intSamplingSpeed == 1 ? (request_.lngMask + 1) * 5
+                                               : std::max(1, request_.lngInterval) * 10;
+    sampling_ = true;
+    block_ = 0;
+    timeMs_ = 0;
+}
+
+SampleRecord SimHost::nextRecord() {
+    if (scriptPos_ < script_.size()) {
+        SampleRecord r = script_[scriptPos_++];
+        timeMs_ += r.lngDiffTime * 0.1;
+        return r;
+    }
+    timeMs_ += interval_ * 0.1;
+    const int16_t items[4] = {request_.intAnalogItem[0], request_.intAnalogItem[1],
+                              request_.intAnalogItem[2], request_.intAnalogItem[3]};
+    return driveSample(profile, timeMs_, interval_, items);
+}
+
+bool SimHost::deliverBlock() {
+    if (!sampling_) return false;
+    GRAPH_RESULT_INFO reply;
+    int32_t code = 0;
+    if (auto it = failures_.find(block_); it != failures_.end()) {
+        code = it->second;
+    } else {
+        reply.udtSample.reserve(static_cast<std::size_t>(std::max(0, recordsPerBlock)));
+        for (int i = 0; i < recordsPerBlock; ++i)
+            reply.udtSample.push_back(nextRecord());
+    }
+    ++block_;
+    std::vector<DispatchValue> args{std::move(reply), code};
+    call(kDispSetSamplingData, DispatchKind::Method, args);
+    return true;
+}
+
+int SimHost::run(int maxBlocks) {
+    int delivered = 0;
+    while (delivered < maxBlocks && deliverBlock())
+        ++delivered;
+    return delivered;
+}
+
+}  // namespace zt::sim
