@@ -20,7 +20,10 @@ float clampedSize(float value) {
 }  // namespace
 
 ztGraphControl::ztGraphControl(CommonLibrary& library, HostEnvironment environment)
-    : env_(std::move(environment)), host_(library, Font{}) {
+    : env_(std::move(environment)),
+      host_(library, Font{}),
+      sheets_(state_, host_, surface_.sprChannel, surface_.sprTrigger, surface_.sprSampling,
+              surface_.lblHighSampItem, env_.locale) {
     initialize();
 }
 
@@ -54,6 +57,9 @@ void ztGraphControl::initialize() {
         state_.chSetting[ch].intChNo = static_cast<int16_t>(ch);
         state_.chSetting[ch].lngGraphColor = kDefaultChannelColor[ch];
     }
+
+    // 9. Setting sheets and item tables.
+    sheets_.build();
 
     // 11. Scroll bar, scale option "All", cursor controls.
     setUpCursorControls(s, host_);
@@ -126,11 +132,36 @@ bool ztGraphControl::SetInifileString(const std::string& IniFile, const std::str
 }
 
 void ztGraphControl::SetMsgItem(std::vector<MSG_ITEM>& udtMsgItem) {
-    state_.msgItems = udtMsgItem;
+    sheets_.SetMsgItem(udtMsgItem);
 }
 
 void ztGraphControl::SetIniFileItem(INIFILE_ITEM& udtIniFileItem) {
-    state_.iniFileItem = udtIniFileItem;
+    sheets_.SetIniFileItem(udtIniFileItem);
+}
+
+void ztGraphControl::SetMonitorItem(MONI_ITEM& udtMoniItem, int32_t lngCh) {
+    sheets_.SetMonitorItem(udtMoniItem, lngCh);
+}
+
+// Fills the station table and rewrites the station cells; the display reset that follows is
+// the run control's.
+void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER_INFO&) {
+    state_.selectedNode = intNode;
+    int32_t value = 0;
+    int32_t count = 0;
+    host_.common().FillStationTable(state_.stations, udtSysInfo, value, count);
+    if (count < 1) return;
+    const size_t n = std::min(udtSysInfo.udtStation.size(), state_.stations.size());
+    for (size_t i = 0; i < n; ++i) {
+        const STATION_RECORD& from = udtSysInfo.udtStation[i];
+        STATION_RECORD& to = state_.stations[i];
+        to.intStationNo = from.intStationNo;
+        to.lngModelCode = from.lngModelCode;
+        to.lngCapacity = from.lngCapacity;
+        to.lngRegion = from.lngRegion;
+        to.lngSpModel = from.lngSpModel;
+    }
+    sheets_.refreshStationLists();
 }
 
 void ztGraphControl::SetParameter(int16_t, MODEL_INFO&, PARAMETER_INFO&) {}

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "config/setting_sheets.h"
 #include "control/graph_state.h"
 #include "control/graph_surface.h"
 #include "control/host_services.h"
@@ -42,6 +43,10 @@ class ztGraphControl {
                           const std::string& iniEntry, std::string& iniBuff);
     void SetMsgItem(std::vector<MSG_ITEM>& udtMsgItem);
     void SetIniFileItem(INIFILE_ITEM& udtIniFileItem);
+    void SetMonitorItem(MONI_ITEM& udtMoniItem, int32_t lngCh);
+    int16_t ReturnChCount() { return sheets_.ReturnChCount(); }
+    int16_t getChNode() { return sheets_.getChNode(); }
+    void SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER_INFO& udtParameter);
     void SetParameter(int16_t intNode, MODEL_INFO& udtModel, PARAMETER_INFO& udtParameter);
     PARAMETER_INFO GetParameter();
     void ChgSelectNode(int16_t intNode);
@@ -67,6 +72,7 @@ class ztGraphControl {
     GraphSurface& surface() { return surface_; }
     const GraphSurface& surface() const { return surface_; }
     const GraphState& state() const { return state_; }
+    SettingSheets& settingSheets() { return sheets_; }
     const HostEnvironment& environment() const { return env_; }
     int16_t runState() const { return state_.runState; }
     bool terminated() const { return terminated_; }
@@ -78,6 +84,7 @@ class ztGraphControl {
     HostServices host_;
     GraphState state_;
     GraphSurface surface_;
+    SettingSheets sheets_;
     float width_ = kMinControlSize;
     float height_ = kMinControlSize;
     bool terminated_ = false;
