@@ -79,13 +79,10 @@ Limits intervalLimits(int16_t speed, int channelCount, int16_t triggerType, int1
 }
 
 Limits samplingTimeLimits(int16_t speed, double interval, double mask) {
-    double lower = interval;
-    double upper = interval;
-    if (speed == kSpeedHighSpeed) {
-        lower = (mask + 1) * 0.5;
-        upper = (mask + 1) * 0.4;
-    }
-    return {lower * 100, upper * 10000};
+    // High speed: about (mask + 1) x 0.5 ms per sample at the lower and (mask + 1) x 0.4 ms at
+    // the upper bound; multiplied out so that the bounds are whole numbers.
+    if (speed == kSpeedHighSpeed) return {(mask + 1) * 50, (mask + 1) * 4000};
+    return {interval * 100, interval * 10000};
 }
 
 float triggerPositionFrom(std::optional<double> value) {
