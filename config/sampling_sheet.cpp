@@ -81,6 +81,14 @@ void SettingSheets::onSamplingListChanged(int col, int row) {
     const int index = sprSampling_.selectedIndex(col, row);
     const int stored = row == kRowMode ? set.intSamplingMode : set.intSamplingSpeed;
     if (index == stored) return;
+    if (row == kRowSpeed && index >= 0) {
+        // The third row changes meaning: it shows the field of the new speed, so that neither
+        // the interval nor the mask count is clamped to the other's bounds.
+        state_.sampSetting.intSamplingSpeed = static_cast<int16_t>(index);
+        const SAMPSETTING& now = state_.sampSetting;
+        sprSampling_.setNumber(1, kRowInterval,
+                               index == kSpeedHighSpeed ? now.dblMask : now.dblSamplingInterval);
+    }
     retakeSampling();
     if (sprSampling_.ActiveRow() == kRowSpeed) speedRule();
     refreshTriggerTargets();
