@@ -102,7 +102,8 @@ void SettingSheets::refillNameList(int channel) {
     sprChannel_.setListItems(channel, kRowName, std::move(names));
     sprChannel_.setText(channel, kRowName, shown);
     sprChannel_.setBackColor(channel, kRowName, held ? kColorGrey : ui::kColorWhite);
-    sprChannel_.setLocked(channel, kRowName, held);
+    // While a run or a graph holds the sheets locked, a refresh unlocks nothing.
+    if (editable()) sprChannel_.setLocked(channel, kRowName, held);
 }
 
 void SettingSheets::markPartner(int channel) {

@@ -145,6 +145,11 @@ TEST(ChannelSheet, LockingForARunKeepsTheRuleLocksAfterwards) {
     EXPECT_FALSE(h.ch.locked(1, 2));
     EXPECT_TRUE(h.ch.locked(2, 2));
     EXPECT_TRUE(h.trig.locked(1, 2));
+
+    h.state.runState = 6;
+    h.sheets.setSheetsLocked(true);
+    h.sheets.refreshStationLists();
+    EXPECT_TRUE(h.ch.locked(1, 3));
 }
 
 }  // namespace
