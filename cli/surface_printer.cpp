@@ -38,4 +38,11 @@ void printControl(ztGraphControl& control, std::ostream& out) {
     printTabs(s.tbsGraphOp, out);
 }
 
+void printSettingSheets(const ztGraphControl& control, std::ostream& out) {
+    const GraphSurface& s = control.surface();
+    for (const ui::SpreadSheet* sheet : {&s.sprChannel, &s.sprTrigger, &s.sprSampling})
+        out << "\n" << sheet->render();
+    if (s.lblHighSampItem.Visible) out << "\n" << s.lblHighSampItem.Caption << "\n";
+}
+
 }  // namespace zt::cli

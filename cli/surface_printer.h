@@ -9,5 +9,7 @@
 namespace zt::cli {
 
 void printControl(ztGraphControl& control, std::ostream& out);
+// The channel, trigger and sampling sheets as tables, and the high-speed item note when shown.
+void printSettingSheets(const ztGraphControl& control, std::ostream& out);
 
 }  // namespace zt::cli

@@ -24,7 +24,9 @@ float clampedSize(float value) {
 ztGraphControl::ztGraphControl(CommonLibrary& library, HostEnvironment environment)
     : env_(std::move(environment)),
       host_(library, Font{}),
-      run_(state_, surface_, host_, [this](int32_t command) { ReqCommand.raise(command); }) {
+      run_(state_, surface_, host_, [this](int32_t command) { ReqCommand.raise(command); }),
+      sheets_(state_, host_, surface_.sprChannel, surface_.sprTrigger, surface_.sprSampling,
+              surface_.lblHighSampItem, env_.locale) {
     initialize();
 }
 
@@ -61,6 +63,9 @@ void ztGraphControl::initialize() {
         state_.chSetting[ch].intChNo = static_cast<int16_t>(ch);
         state_.chSetting[ch].lngGraphColor = kDefaultChannelColor[ch];
     }
+
+    // 9. Setting sheets and item tables.
+    sheets_.build();
 
     // 11. Scroll bar, scale option "All", cursor controls.
     setUpCursorControls(s, host_);
@@ -133,11 +138,15 @@ bool ztGraphControl::SetInifileString(const std::string& IniFile, const std::str
 }
 
 void ztGraphControl::SetMsgItem(std::vector<MSG_ITEM>& udtMsgItem) {
-    state_.msgItems = udtMsgItem;
+    sheets_.SetMsgItem(udtMsgItem);
 }
 
 void ztGraphControl::SetIniFileItem(INIFILE_ITEM& udtIniFileItem) {
-    state_.iniFileItem = udtIniFileItem;
+    sheets_.SetIniFileItem(udtIniFileItem);
+}
+
+void ztGraphControl::SetMonitorItem(MONI_ITEM& udtMoniItem, int32_t lngCh) {
+    sheets_.SetMonitorItem(udtMoniItem, lngCh);
 }
 
 void ztGraphControl::SetParameter(int16_t, MODEL_INFO&, PARAMETER_INFO&) {}
@@ -200,14 +209,6 @@ void ztGraphControl::advise(GraphHostSink* sink) {
     ReqCommand.connect([sink](int32_t command) { sink->ReqCommand(command); });
 }
 
-int16_t ztGraphControl::ReturnChCount() {
-    return channelsInUse(state_.chSetting);
-}
-
-int16_t ztGraphControl::getChNode() {
-    return lowestChannelStation(state_.chSetting);
-}
-
 void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER_INFO&) {
     state_.selectedNode = intNode;
     int32_t value = 0, count = 0;
@@ -223,14 +224,8 @@ void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER
         to.lngRegion = from.lngRegion;
         to.lngSpModel = from.lngSpModel;
     }
-    // A channel whose station is no longer present loses its station.
-    for (int ch = 1; ch <= kChannelCount; ++ch) {
-        CHSETTING& c = state_.chSetting[static_cast<std::size_t>(ch)];
-        if (c.lngTargetNo >= 0 && c.lngTargetNo < kStationCount &&
-            !state_.stations[static_cast<std::size_t>(c.lngTargetNo)].present())
-            c.lngTargetNo = kNoStation;
-    }
-    if (refreshChannelSheetHook) refreshChannelSheetHook();
+    // Station cells and rows; a channel whose station is no longer present loses it.
+    sheets_.refreshStationLists();
     if (clearPlotSeriesHook) clearPlotSeriesHook();
     callHook(run_.hooks().redrawVertScaleLabels);
     if (resetCursorsHook) resetCursorsHook();

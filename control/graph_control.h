@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "config/setting_sheets.h"
 #include "control/graph_state.h"
 #include "control/graph_surface.h"
 #include "control/host_services.h"
@@ -47,6 +48,10 @@ class ztGraphControl {
                           const std::string& iniEntry, std::string& iniBuff);
     void SetMsgItem(std::vector<MSG_ITEM>& udtMsgItem);
     void SetIniFileItem(INIFILE_ITEM& udtIniFileItem);
+    void SetMonitorItem(MONI_ITEM& udtMoniItem, int32_t lngCh);
+    int16_t ReturnChCount() { return sheets_.ReturnChCount(); }
+    int16_t getChNode() { return sheets_.getChNode(); }
+    void SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER_INFO& udtParameter);
     void SetParameter(int16_t intNode, MODEL_INFO& udtModel, PARAMETER_INFO& udtParameter);
     PARAMETER_INFO GetParameter();
     void ChgSelectNode(int16_t intNode);
@@ -69,9 +74,6 @@ class ztGraphControl {
     void setContainerInfo(CONT_INFO& udtContInfo);
 
     // Sampling runs and the host exchange.
-    int16_t ReturnChCount();
-    int16_t getChNode();
-    void SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER_INFO& udtParameter);
     void SetSysStatus(int16_t intNode, SYS_INFO& udtSysInfo, INV_STATUS& udtInvStatus);
     void ChgLineStatus(int16_t intstatus) { run_.ChgLineStatus(intstatus); }
     void SetSamplingData(GRAPH_RESULT_INFO& udtGraphResultInfo, int32_t lngErrCode) {
@@ -83,8 +85,7 @@ class ztGraphControl {
     void EventResCommand(int32_t lngResult) { run_.EventResCommand(lngResult); }
     void showComErrDlg(int32_t lngNode, int32_t lngErrCode);
 
-    // Members whose subsystems are wired separately (item tables, printing, files, colours).
-    void SetMonitorItem(MONI_ITEM& udtMoniItem, int32_t lngCh);
+    // Members whose subsystems are wired separately (printing, files, colours).
     void PrintOut(PrinterObject* objPrinter);
     int16_t ImportFile(const std::string& strFileName, SYS_INFO& udtSysInfo);
     int16_t ExportFile(const std::string& strFileName);
@@ -95,9 +96,7 @@ class ztGraphControl {
 
     // Run control and the hooks through which it reaches the other subsystems.
     RunControl& run() { return run_; }
-    // Hooks of SetSysInfo: rewrite the channel sheet's station cells and rows and refresh the
-    // sheets; clear the plotted series; reset both cursors.
-    std::function<void()> refreshChannelSheetHook;
+    // Hooks of SetSysInfo: clear the plotted series; reset both cursors.
     std::function<void()> clearPlotSeriesHook;
     std::function<void()> resetCursorsHook;
 
@@ -106,6 +105,7 @@ class ztGraphControl {
     const GraphSurface& surface() const { return surface_; }
     const GraphState& state() const { return state_; }
     GraphState& state() { return state_; }
+    SettingSheets& settingSheets() { return sheets_; }
     const HostEnvironment& environment() const { return env_; }
     int16_t runState() const { return state_.runState; }
     bool terminated() const { return terminated_; }
@@ -118,6 +118,7 @@ class ztGraphControl {
     GraphState state_;
     GraphSurface surface_;
     RunControl run_;
+    SettingSheets sheets_;
     float width_ = kMinControlSize;
     float height_ = kMinControlSize;
     bool terminated_ = false;

@@ -4,8 +4,6 @@
 
 namespace zt {
 
-void ztGraphControl::SetMonitorItem(MONI_ITEM&, int32_t) {}
-
 void ztGraphControl::PrintOut(PrinterObject*) {}
 
 int16_t ztGraphControl::ImportFile(const std::string&, SYS_INFO&) {

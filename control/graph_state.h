@@ -7,7 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "config/item_tables.h"
 #include "config/settings_model.h"
+#include "config/two_channel_memory.h"
 #include "graph/graph_info.h"
 #include "platform/host_records.h"
 #include "platform/zt_common.h"
@@ -31,6 +33,11 @@ struct GraphState {
     // Settings.
     SAMPSETTING sampSetting;
     ChannelSettings chSetting{};
+    // Item lists of each channel and what the two-channel items took over.
+    ItemTables tableItem{};
+    TwoChannelMemory twoChannel{};
+    // Set while a graph file is read: item lookups then keep unknown items.
+    bool loadingGraphFile = false;
 
     // Run control.
     int16_t runState = 0;
