@@ -34,6 +34,7 @@ ztGraphControl::~ztGraphControl() = default;
 
 void ztGraphControl::initialize() {
     GraphSurface& s = surface_;
+    linkSubsystems();
 
     // 1. The setting sheets start hidden, with drawing off, until they are built.
     for (ui::SpreadSheet* sheet : {&s.sprChannel, &s.sprTrigger, &s.sprSampling}) {
@@ -107,6 +108,7 @@ void ztGraphControl::initialize() {
     SetIniFileItem(builtIn);
 
     state_.runState = 0;
+    run_.applyRunState();
     Resize();
 }
 

@@ -112,6 +112,9 @@ class ztGraphControl {
 
   private:
     void initialize();
+    void linkSubsystems();
+    // Column `column` of the channel's item reads "1".
+    bool itemFlag(int channel, int16_t column);
 
     HostEnvironment env_;
     HostServices host_;

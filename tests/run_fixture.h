@@ -7,8 +7,11 @@
 #include <utility>
 #include <vector>
 
+#include "config/channel_rules.h"
+#include "config/item_tables.h"
 #include "control/graph_control.h"
 #include "control/graph_control_interface.h"
+#include "platform/text/format_pattern.h"
 #include "run/channel_rules.h"
 #include "sim/sim_common_library.h"
 #include "sim/sim_host.h"
@@ -44,9 +47,22 @@ struct RunFixture {
 
     SAMPSETTING& setting() { return control.state().sampSetting; }
 
-    // Puts a station and item on a channel, as a channel-sheet edit does.
+    // Puts a station and item on a channel: a person's choice on the channel sheet when the
+    // station is present, otherwise the settings a loaded graph file leaves behind.
     void setChannel(int ch, int32_t station, int32_t item, int16_t ad = 0) {
-        CHSETTING& c = control.state().chSetting[static_cast<std::size_t>(ch)];
+        GraphState& state = control.state();
+        ui::SpreadSheet& sheet = control.surface().sprChannel;
+        if (station >= 0 && station < kStationCount &&
+            state.stations[static_cast<std::size_t>(station)].present()) {
+            sheet.chooseListItem(ch, kRowStation, text::formatNumber(station, "00", HostLocale{}));
+            const auto& list = channelItemList(state.tableItem, ch, setting().intSamplingSpeed);
+            for (const ITEM_INFO& entry : list) {
+                if (entry.lngItemCode == item)
+                    sheet.chooseListItem(ch, kRowName, itemName(entry, ch));
+            }
+            return;
+        }
+        CHSETTING& c = state.chSetting[static_cast<std::size_t>(ch)];
         c.lngTargetNo = station;
         c.lngSamplingItem = item;
         c.intAD = ad;

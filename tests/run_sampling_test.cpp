@@ -134,7 +134,7 @@ TEST_F(SamplingRun, StationNotReadyRefusesTheStartWithItsError) {
 }
 
 TEST_F(SamplingRun, HostReceivesTheRequestWithTheHostFieldsTaken) {
-    setChannel(2, 1, 209);
+    setChannel(2, 2, 209);  // motor speed, offered by the vector drive on station 2
     setting().dblSamplingInterval = 200;
     setting().dblSamplingTime = 20000;
     control.surface().cmdStart.click();

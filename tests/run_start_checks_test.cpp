@@ -35,6 +35,7 @@ TEST_F(StartCheck, InsideTriggerOnAnUnsetChannelIsRefused) {
 }
 
 TEST_F(StartCheck, NegativeLevelNeedsASignedItem) {
+    setChannel(1, 1, 202);  // output current: unsigned
     setting().intTriggerType = 1;
     setting().intTriggerTarget = 1;
     setting().intTriggerBoot = 0;
@@ -42,7 +43,10 @@ TEST_F(StartCheck, NegativeLevelNeedsASignedItem) {
     EXPECT_EQ(startAndReadBoxes(),
               (std::vector<std::string>{"Trigger Level is out of setting range."}));
     lib.boxes().clear();
-    control.run().hooks().itemSigned = [](int) { return true; };
+    setChannel(1, 1, 201);  // output frequency: signed
+    setting().intTriggerType = 1;
+    setting().intTriggerTarget = 1;
+    setting().dblTriggerLevel = -5;
     EXPECT_TRUE(startAndReadBoxes().empty());
 }
 
