@@ -5,6 +5,7 @@
 
 #include "control/ini_file_access.h"
 #include "graph/channel_colors.h"
+#include "graph/chart_setup.h"
 #include "graph/surface_layout.h"
 
 namespace zt {
@@ -43,6 +44,9 @@ void ztGraphControl::initialize() {
     // records per channel and slot, 32 stations).
 
     // 4. The common library's objects are created on first use: the first text asks for them.
+    // 5. References to the chart's objects.
+    chart_ = lookupChartObjects(CBGraph1);
+
     // 6. Run buttons.
     placeRunButtons(s, host_);
 
@@ -54,6 +58,9 @@ void ztGraphControl::initialize() {
         state_.chSetting[ch].intChNo = static_cast<int16_t>(ch);
         state_.chSetting[ch].lngGraphColor = kDefaultChannelColor[ch];
     }
+
+    // 10. The chart's appearance.
+    configureChart(chart_, state_.chSetting, std::nullopt);
 
     // 11. Scroll bar, scale option "All", cursor controls.
     setUpCursorControls(s, host_);

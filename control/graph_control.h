@@ -10,6 +10,8 @@
 #include "control/graph_state.h"
 #include "control/graph_surface.h"
 #include "control/host_services.h"
+#include "graph/chart_refs.h"
+#include "platform/chart/chart_root.h"
 #include "platform/common_library.h"
 #include "platform/host_locale.h"
 #include "platform/host_records.h"
@@ -70,6 +72,10 @@ class ztGraphControl {
     const HostEnvironment& environment() const { return env_; }
     int16_t runState() const { return state_.runState; }
     bool terminated() const { return terminated_; }
+    // The chart and the references the control took to its objects.
+    chart::ChartRoot& chartRoot() { return CBGraph1; }
+    const chart::ChartRoot& chartRoot() const { return CBGraph1; }
+    const ChartRefs& chartRefs() const { return chart_; }
 
   private:
     void initialize();
@@ -78,6 +84,8 @@ class ztGraphControl {
     HostServices host_;
     GraphState state_;
     GraphSurface surface_;
+    chart::ChartRoot CBGraph1;
+    ChartRefs chart_;
     float width_ = kMinControlSize;
     float height_ = kMinControlSize;
     bool terminated_ = false;
