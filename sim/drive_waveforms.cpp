@@ -73,7 +73,7 @@ DriveState driveAt(double u, double span, const std::optional<double>& tripAt, u
     s.current = s.run ? magnetising + std::fabs(s.torque) * 0.22 + 0.3 * noise(seed) : 0;
     if (tripAt && !tripped && t > *tripAt - 0.03 * span) {
         // Overcurrent building up before the trip.
-        s.current *= 1 + 4 * (t - (*tripAt - 0.03 * span)) / (0.03 * span);
+        s.current *= 1 + 1.5 * (t - (*tripAt - 0.03 * span)) / (0.03 * span);
     }
     s.voltage = std::min(400.0, 400.0 * f / kTop) + (f > 0 ? 3 * noise(seed) : 0);
     s.speedRef = 30 * f;
@@ -90,7 +90,7 @@ DriveState servoAt(double u, uint32_t& seed) {
     const double x = ramp(u, 0.1, 0.5);
     s.command = kMove * sCurve(x);
     // The position follows the command with a lag.
-    const double lagged = ramp(u, 0.12, 0.52);
+    const double lagged = ramp(u, 0.105, 0.5);
     s.position = kMove * sCurve(lagged) + 3 * noise(seed);
     const double droop = s.command - s.position;
     const double velocity = kMove * 6 * x * (1 - x);  // pulses per unit of u
