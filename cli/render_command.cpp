@@ -1,6 +1,7 @@
 // ztgraph render: draws a simulated drive run through the component's plotting and writes the
 // chart as a picture.
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <filesystem>
 #include <optional>

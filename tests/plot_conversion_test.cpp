@@ -24,6 +24,9 @@ struct ConversionCase {
     double expected;
 };
 
+void PrintTo(const ConversionCase& c, std::ostream* os) {
+    *os << c.name;
+}
 class AnalogValue : public ::testing::TestWithParam<ConversionCase> {};
 
 TEST_P(AnalogValue, IsRawCountTimesGainTimesDecimalFactor) {

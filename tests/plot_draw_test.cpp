@@ -39,6 +39,9 @@ struct DriftCase {
     size_t index;
     double expected;
 };
+void PrintTo(const DriftCase& c, std::ostream* os) {
+    *os << "interval " << c.interval << ", sample " << c.index;
+}
 class PlotLongRun : public ::testing::TestWithParam<DriftCase> {};
 
 TEST_P(PlotLongRun, TimesDoNotDrift) {
@@ -57,6 +60,9 @@ struct TriggerCase {
     float position;
     bool shown;
 };
+void PrintTo(const TriggerCase& c, std::ostream* os) {
+    *os << "position " << c.position;
+}
 class PlotTriggerMark : public ::testing::TestWithParam<TriggerCase> {};
 
 TEST_P(PlotTriggerMark, ShownOnlyForPositionsFrom10To90) {
