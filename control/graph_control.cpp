@@ -119,6 +119,7 @@ void ztGraphControl::Resize() {
 void ztGraphControl::Terminate() {
     // Saves nothing and raises nothing; the references it held are dropped with the control.
     ReqCommand.disconnect();
+    chart_ = ChartRefs{};
     terminated_ = true;
 }
 

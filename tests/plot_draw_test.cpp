@@ -217,6 +217,10 @@ TEST(PlotStartUp, ControlShowsAnEmptyChart) {
         EXPECT_EQ(r.area[static_cast<size_t>(c)]->Left, 320);
     }
     EXPECT_EQ(control.state().chSetting[4].lngGraphColor, 0x80FF80);
+
+    control.Terminate();
+    EXPECT_EQ(control.chartRefs().root, nullptr);
+    EXPECT_EQ(control.chartRefs().timeBase, nullptr);
 }
 
 }  // namespace
