@@ -13,4 +13,7 @@ using Args = std::vector<std::string>;
 // Builds the control on the simulated host and prints its surface.
 int runShow(const Args& args, std::ostream& out, std::ostream& err);
 
+// Draws a simulated drive run and writes the chart to a PNG, SVG or PDF file.
+int runRender(const Args& args, std::ostream& out, std::ostream& err);
+
 }  // namespace zt::cli

@@ -14,6 +14,7 @@ struct Command {
 
 constexpr Command kCommands[] = {
     {"show", zt::cli::runShow, "build the control on the simulated host and print its surface"},
+    {"render", zt::cli::runRender, "draw a simulated drive run to a PNG, SVG or PDF file"},
 };
 
 void usage(std::ostream& out) {

@@ -6,6 +6,7 @@
 #include "control/comm_error_text.h"
 #include "control/ini_file_access.h"
 #include "graph/channel_colors.h"
+#include "graph/chart_setup.h"
 #include "graph/surface_layout.h"
 #include "run/channel_rules.h"
 
@@ -50,6 +51,9 @@ void ztGraphControl::initialize() {
     // records per channel and slot, 32 stations).
 
     // 4. The common library's objects are created on first use: the first text asks for them.
+    // 5. References to the chart's objects.
+    chart_ = lookupChartObjects(CBGraph1);
+
     // 6. Run buttons.
     placeRunButtons(s, host_);
     s.cmdStart.Click.connect([this] { run_.cmdStart_Click(); });
@@ -67,6 +71,9 @@ void ztGraphControl::initialize() {
 
     // 9. Setting sheets and item tables.
     sheets_.build();
+
+    // 10. The chart's appearance.
+    configureChart(chart_, state_.chSetting, std::nullopt);
 
     // 11. Scroll bar, scale option "All", cursor controls.
     setUpCursorControls(s, host_);
@@ -126,6 +133,7 @@ void ztGraphControl::Resize() {
 void ztGraphControl::Terminate() {
     // Saves nothing and raises nothing; the references it held are dropped with the control.
     ReqCommand.disconnect();
+    chart_ = ChartRefs{};
     terminated_ = true;
 }
 

@@ -12,6 +12,9 @@
 #include "control/graph_state.h"
 #include "control/graph_surface.h"
 #include "control/host_services.h"
+#include "graph/chart_refs.h"
+#include "graph/plot_inputs.h"
+#include "platform/chart/chart_root.h"
 #include "platform/common_library.h"
 #include "platform/graph_host_interface.h"
 #include "platform/host_locale.h"
@@ -109,12 +112,22 @@ class ztGraphControl {
     const HostEnvironment& environment() const { return env_; }
     int16_t runState() const { return state_.runState; }
     bool terminated() const { return terminated_; }
+    // The chart and the references the control took to its objects.
+    chart::ChartRoot& chartRoot() { return CBGraph1; }
+    const chart::ChartRoot& chartRoot() const { return CBGraph1; }
+    const ChartRefs& chartRefs() const { return chart_; }
 
   private:
     void initialize();
     void linkSubsystems();
     // Column `column` of the channel's item reads "1".
     bool itemFlag(int channel, int16_t column);
+    // What plotting needs of the configuration, read from the sheets and the host.
+    PlotInputs plotInputs();
+    // A new run starts: default scales, empty series, axes for the whole recording.
+    void prepareDisplayForRun();
+    // Draws the newest graph with its axes.
+    void showGraph();
 
     HostEnvironment env_;
     HostServices host_;
@@ -122,6 +135,8 @@ class ztGraphControl {
     GraphSurface surface_;
     RunControl run_;
     SettingSheets sheets_;
+    chart::ChartRoot CBGraph1;
+    ChartRefs chart_;
     float width_ = kMinControlSize;
     float height_ = kMinControlSize;
     bool terminated_ = false;

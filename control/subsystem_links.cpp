@@ -1,25 +1,30 @@
 // How the subsystems reach one another. The setting sheets send run events to the run-state
-// machine; the run control locks the sheets, asks them about items, resets them on Clear and
-// hands finished graphs to the history. Every link is made here, once, at construction.
+// machine; the run control locks the sheets, asks them about items, prepares the display,
+// draws each reply's records, resets the settings on Clear and hands finished graphs to the
+// history. Every link is made here, once, at construction.
 #include <algorithm>
 
 #include "config/item_attribute.h"
 #include "config/item_tables.h"
 #include "control/graph_control.h"
+#include "graph/plot_graph.h"
 #include "platform/text/date_time_text.h"
+#include "platform/text/numeric.h"
+#include "scale/run_scales.h"
 #include "store/new_graph.h"
 
 namespace zt {
 
 namespace {
 
-// Attribute column telling that an item's values are zeroed on a fault of its station.
+// Attribute columns: the item's values are zeroed on a fault of its station.
 constexpr int16_t kAttrZeroOnFault = 9;
 
 }  // namespace
 
 void ztGraphControl::linkSubsystems() {
     sheets_.hooks.runEvent = [this](int16_t event) { run_.changeRunState(event); };
+    sheets_.hooks.redrawGraph = [this] { showGraph(); };
 
     RunHooks& run = run_.hooks();
     run.lockSheets = [this](bool locked) { sheets_.setSheetsLocked(locked); };
@@ -33,10 +38,28 @@ void ztGraphControl::linkSubsystems() {
             return entry.lngItemCode == item && entry.lngItemCode != kNoneItem;
         });
     };
+    run.plotInputs = [this] { return plotInputs(); };
+    run.prepareDisplayForRun = [this] { prepareDisplayForRun(); };
+    run.drawNewRecords = [this](int first, int last) {
+        drawNewRecords(chart_, state_, plotInputs(), first, last);
+    };
+    run.showStatusLabel = [this](const std::string& text) {
+        chart_.triggerStateLabel->Text = text;
+        chart_.triggerStateLabel->Visible = true;
+    };
+    run.hideStatusLabel = [this] { chart_.triggerStateLabel->Visible = false; };
     run.enterNewGraph = [this] {
+        showGraph();
         const std::string stamp = text::dateTimeText(text::localTime(env_.now()), env_.locale);
         enterNewGraph(state_, stamp, sheets_.ReturnChCount());
     };
+    run.clearAllGraphs = [this] { clearAllGraphs(chart_, state_); };
+    run.graphNeedsScrolling = [this] {
+        const double shown = state_.graphInfo.udtHorzScale.sngHorzScale * 10.0;
+        return chart_.timeBase->pointCount() > 0 && shown < state_.sampSetting.dblSamplingTime;
+    };
+
+    clearPlotSeriesHook = [this] { clearDisplayedGraph(chart_, state_); };
 }
 
 bool ztGraphControl::itemFlag(int channel, int16_t column) {
@@ -44,6 +67,44 @@ bool ztGraphControl::itemFlag(int channel, int16_t column) {
     const int16_t speed = state_.sampSetting.intSamplingSpeed;
     const int32_t item = state_.chSetting[static_cast<std::size_t>(channel)].lngSamplingItem;
     return sheets_.itemAttribute(item, column, static_cast<int16_t>(channel), speed) == "1";
+}
+
+PlotInputs ztGraphControl::plotInputs() {
+    PlotInputs in;
+    for (int c = 1; c <= kChannelCount; ++c) {
+        const auto ch = static_cast<std::size_t>(c);
+        in.inUse[ch] = sheets_.channelIsSet(c);
+        in.directValue[ch] = state_.directValue[ch];
+        if (isAnalogChannel(c)) in.signedItem[ch] = in.inUse[ch] && itemFlag(c, kAttrSign);
+    }
+    host_.common().GetModelText(in.modelText);
+    in.triggerText = host_.text(msg::kTriggerMark);
+    return in;
+}
+
+void ztGraphControl::prepareDisplayForRun() {
+    const PlotInputs in = plotInputs();
+    const int16_t speed = state_.sampSetting.intSamplingSpeed;
+    for (int c = 1; c <= kChannelCount; ++c) {
+        const auto ch = static_cast<std::size_t>(c);
+        if (!in.inUse[ch]) continue;
+        const int32_t item = state_.chSetting[ch].lngSamplingItem;
+        const std::string fullScale =
+            sheets_.itemAttribute(item, kAttrFullScale, static_cast<int16_t>(c), speed);
+        const double fs = text::val(fullScale);
+        state_.graphInfo.udtVertScale[ch] = defaultVertScale(c, static_cast<int32_t>(fs));
+    }
+    resetHorzScale(state_.graphInfo.udtHorzScale, state_.sampSetting);
+    clearDisplayedGraph(chart_, state_);
+    applyVertScales(chart_, state_.graphInfo, in);
+    applyTimeAxis(chart_, state_.graphInfo.udtHorzScale);
+}
+
+void ztGraphControl::showGraph() {
+    const PlotInputs in = plotInputs();
+    applyVertScales(chart_, state_.graphInfo, in);
+    applyTimeAxis(chart_, state_.graphInfo.udtHorzScale);
+    drawGraph(chart_, state_, in, 0, kDisplayedGraph);
 }
 
 }  // namespace zt

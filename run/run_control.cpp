@@ -157,22 +157,9 @@ void RunControl::beginSweep(bool clearAll) {
         setup.triggerChannel = c;
         setup.triggerChannelDigital = state_.chSetting[static_cast<std::size_t>(c)].intAD != 0;
         if (!setup.triggerChannelDigital && isAnalogChannel(c)) {
-            if (hooks_.analogConversion) {
-                setup.conversion = hooks_.analogConversion(c);
-            } else {
-                AnalogChannelFacts facts;
-                facts.channel = c;
-                facts.itemCode = state_.chSetting[static_cast<std::size_t>(c)].lngSamplingItem;
-                facts.inUse = channelInUse(state_.chSetting, c);
-                facts.itemSigned = hooks_.itemSigned && hooks_.itemSigned(c);
-                facts.directValue = state_.directValue[static_cast<std::size_t>(c)];
-                std::string model;
-                host_.common().GetModelText(model);
-                facts.model901 = model == "901";
-                facts.baseValue = state_.sampData[static_cast<std::size_t>(c)].sngBaseValue;
-                facts.decimalPlaces = state_.sampData[static_cast<std::size_t>(c)].intDecPoint;
-                setup.conversion = analogConversion(facts);
-            }
+            const PlotInputs inputs = hooks_.plotInputs ? hooks_.plotInputs() : PlotInputs{};
+            setup.conversion = buildConversionTable(state_.chSetting, state_.sampData,
+                                                    inputs)[static_cast<std::size_t>(c)];
         }
     }
     if (s.intTriggerType == 2) {

@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "run/analog_conversion.h"
+#include "graph/plot_inputs.h"
 
 namespace zt {
 
@@ -41,8 +41,9 @@ struct RunHooks {
     // Start check: the channel's item is offered for the sampling speed (0 monitor, 1 high
     // speed). Defaults to true.
     std::function<bool(int channel, int16_t speed)> samplingItemOffered;
-    // Engineering-value conversion of an analog channel; defaults to the built-in tables.
-    std::function<AnalogConversion(int channel)> analogConversion;
+    // What the conversion of raw counts needs to know of the configuration (channels in use,
+    // signed items, model); defaults to nothing in use.
+    std::function<PlotInputs()> plotInputs;
     // The horizontal scroll bar is needed: the graph holds points and the sampling time
     // exceeds ten divisions. Defaults to false.
     std::function<bool()> graphNeedsScrolling;

@@ -24,7 +24,7 @@ bool triggerCondition(const SweepSetup& setup, const SampleRecord& record) {
     }
     if (c < 1 || c > 4) return false;
     const double value =
-        setup.conversion.value(record.lngAnalogData[static_cast<std::size_t>(c - 1)]);
+        convertRaw(record.lngAnalogData[static_cast<std::size_t>(c - 1)], setup.conversion);
     return rise ? value >= setup.triggerLevel : value <= setup.triggerLevel;
 }
 

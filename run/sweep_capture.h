@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "platform/host_records.h"
-#include "run/analog_conversion.h"
+#include "graph/conversion_table.h"
 
 namespace zt {
 
@@ -30,7 +30,7 @@ struct SweepSetup {
     double triggerLevel = 0;
     int triggerChannel = 0;  // "Inside": channel 1 to 8
     bool triggerChannelDigital = false;
-    AnalogConversion conversion;  // "Inside" on an analog channel
+    Conversion conversion;  // "Inside" on an analog channel
     int64_t preTriggerTime = 0;   // tenths of a millisecond
     double samplingTime = 0;      // tenths of a millisecond
     // "Fault": analog channels 1 to 4 whose raw values are zeroed in faulted records.

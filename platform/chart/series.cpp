@@ -32,6 +32,22 @@ void Series::adopt(int count, std::vector<double>&& values, std::vector<double>&
     labels_.reset(count_);
 }
 
+void Series::setPointRange(int first, int last, const double* values, const double* times) {
+    first = std::clamp(first, 0, count_);
+    if (last <= first || values == nullptr || times == nullptr) return;
+    const auto end = static_cast<size_t>(last);
+    if (values_.size() < end) values_.resize(end);
+    if (times_.size() < end) times_.resize(end);
+    if (first == 0) sorted_ = true;
+    for (size_t i = static_cast<size_t>(first); i < end; ++i) {
+        values_[i] = values[i];
+        times_[i] = times[i];
+        if (!std::isfinite(times_[i]) || (i > 0 && times_[i] < times_[i - 1])) sorted_ = false;
+    }
+    count_ = last;
+    labels_.reset(count_);
+}
+
 void Series::setPointCount(int count) {
     const int n = std::clamp(count, 0, count_);
     if (n == count_) return;

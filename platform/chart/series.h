@@ -61,6 +61,12 @@ class Series {
     // The same with 16-bit values (the time-base series).
     void setPoints(int count, const std::vector<int16_t>& values, std::vector<double> times);
 
+    // Writes points `first` … `last` - 1 from the same indexes of the arrays and makes the
+    // series hold points 0 … `last` - 1, keeping the earlier ones: a graph that grows while it
+    // is sampled costs only its new points. `first` is limited to 0 … the current count; every
+    // label switch goes off.
+    void setPointRange(int first, int last, const double* values, const double* times);
+
     int pointCount() const { return count_; }
     // 0 empties the series; a smaller count drops the points beyond it; a larger or negative
     // count is limited to 0 … the current count.

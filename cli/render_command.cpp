@@ -1,0 +1,206 @@
+// ztgraph render: draws a simulated drive run through the component's plotting and writes the
+// chart as a picture.
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "cli/commands.h"
+#include "control/graph_state.h"
+#include "graph/chart_refs.h"
+#include "graph/chart_setup.h"
+#include "graph/conversion_table.h"
+#include "graph/plot_graph.h"
+#include "render/render_chart.h"
+#include "sim/drive_waveforms.h"
+
+namespace zt::cli {
+
+namespace {
+
+constexpr std::string_view kUsage =
+    "usage: ztgraph render --out FILE.png|svg|pdf [--width W --height H]\n"
+    "                      [--scenario typical|fault|servo]\n";
+
+struct ChannelPlan {
+    int32_t item = kNoneItem;
+    float baseValue = 0;  // engineering value of the full-scale count, in units of the decimals
+    int16_t decimals = 0;
+    bool isSigned = false;
+    bool direct = false;
+    double low = 0;  // vertical range shown
+    double high = 0;
+};
+
+using Plan = std::array<ChannelPlan, 9>;
+
+Plan planFor(sim::DriveScenario scenario) {
+    Plan p{};
+    if (scenario == sim::DriveScenario::Servo) {
+        p[1] = {224, 0, 0, true, true, -50000, 250000};
+        p[2] = {224, 0, 0, true, true, 0, 0};
+        p[3] = {226, 0, 0, true, true, -8000, 8000};
+        p[4] = {226, 0, 0, true, true, 0, 0};
+        p[5].item = 33;
+        p[6].item = 39;
+        p[7].item = 1;
+        p[8].item = 36;
+        return p;
+    }
+    p[1] = {201, 0, 2, true, false, -20, 80};
+    p[2] = {202, 20000, 2, false, false, 0, 100};
+    p[3] = {212, 800, 0, false, false, 0, 1000};
+    p[4] = {207, 200, 0, true, false, -150, 250};
+    p[5].item = 33;
+    p[6].item = 35;
+    p[7].item = 1;
+    p[8].item = 36;
+    return p;
+}
+
+std::optional<render::Format> formatOf(const std::string& path) {
+    std::string ext = std::filesystem::path(path).extension().string();
+    std::transform(ext.begin(), ext.end(), ext.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    if (ext == ".png") return render::Format::Png;
+    if (ext == ".svg") return render::Format::Svg;
+    if (ext == ".pdf") return render::Format::Pdf;
+    return std::nullopt;
+}
+
+std::optional<int> sizeArg(const std::string& text) {
+    try {
+        size_t used = 0;
+        const int v = std::stoi(text, &used);
+        if (used != text.size() || v < 1 || v > 20000) return std::nullopt;
+        return v;
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+// The index of the first record whose digital word has `bit` set after having it clear.
+int32_t firstRise(const std::vector<SampleRecord>& records, int bit) {
+    for (size_t i = 1; i < records.size(); ++i) {
+        const bool before = (records[i - 1].intDigitalData >> bit) & 1;
+        const bool now = (records[i].intDigitalData >> bit) & 1;
+        if (!before && now) return static_cast<int32_t>(i);
+    }
+    return 0;
+}
+
+}  // namespace
+
+int runRender(const Args& args, std::ostream& out, std::ostream& err) {
+    std::string path;
+    render::RenderOptions options;
+    sim::DriveScenario scenario = sim::DriveScenario::Typical;
+    for (size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        if (a == "--help" || a == "-h") {
+            out << kUsage;
+            return 0;
+        }
+        if (i + 1 >= args.size()) {
+            err << "ztgraph render: " << a << " needs a value\n" << kUsage;
+            return 2;
+        }
+        const std::string& v = args[++i];
+        if (a == "--out") {
+            path = v;
+        } else if (a == "--width" || a == "--height") {
+            const auto n = sizeArg(v);
+            if (!n) {
+                err << "ztgraph render: " << a << " takes a size from 1 to 20000\n";
+                return 2;
+            }
+            (a == "--width" ? options.width : options.height) = *n;
+        } else if (a == "--scenario") {
+            const auto s = sim::parseScenario(v);
+            if (!s) {
+                err << "ztgraph render: unknown scenario '" << v << "'\n" << kUsage;
+                return 2;
+            }
+            scenario = *s;
+        } else {
+            err << "ztgraph render: unknown option '" << a << "'\n" << kUsage;
+            return 2;
+        }
+    }
+    const auto format = formatOf(path);
+    if (path.empty() || !format) {
+        err << "ztgraph render: --out must name a .png, .svg or .pdf file\n" << kUsage;
+        return 2;
+    }
+
+    chart::ChartRoot root;
+    const ChartRefs refs = lookupChartObjects(root);
+    GraphState state;
+    configureChart(refs, state.chSetting, std::nullopt);
+    resetVerticalAxes(refs);
+    setScaleMargin(refs, 0);
+
+    const Plan plan = planFor(scenario);
+    PlotInputs inputs;
+    for (size_t c = 1; c <= 8; ++c) {
+        state.chSetting[c].lngSamplingItem = plan[c].item;
+        state.chSetting[c].lngTargetNo = 1;
+        state.chSetting[c].intAD = c <= 4 ? 0 : 1;
+        inputs.inUse[c] = plan[c].item != kNoneItem;
+        inputs.directValue[c] = plan[c].direct;
+        if (c <= 4) {
+            inputs.signedItem[c] = plan[c].isSigned;
+            state.sampData[c].sngBaseValue = plan[c].baseValue;
+            state.sampData[c].intDecPoint = plan[c].decimals;
+        }
+    }
+
+    // Raw counts per engineering unit follow from the same conversion the plotting uses.
+    const ConversionTable table = buildConversionTable(state.chSetting, state.sampData, inputs);
+    sim::WaveformRequest request;
+    request.scenario = scenario;
+    request.intervalTenths = 10;
+    for (size_t c = 1; c <= 8; ++c) {
+        request.channel[c].item = plan[c].item;
+        request.channel[c].station = 1;
+        if (c <= 4) {
+            const double unit = table[c].gain * static_cast<double>(table[c].decimalFactor);
+            request.channel[c].countsPerUnit = unit != 0 ? 1 / unit : 0;
+        }
+    }
+    const std::vector<SampleRecord> records = sim::driveWaveforms(request);
+    auto& slot = state.history.udtGraphResultInfo[0].udtSample;
+    std::copy(records.begin(), records.end(), slot.begin());
+
+    // The trigger: the run signal's rise, or the fault's.
+    state.sampSetting.intTriggerType = scenario == sim::DriveScenario::Fault ? 2 : 1;
+    state.sampSetting.lngTriggerPoint =
+        scenario == sim::DriveScenario::Fault ? firstRise(records, 3) : firstRise(records, 0);
+    state.sampSetting.sngTriggerPosition = 10;
+
+    // Ten divisions over the whole run.
+    const double span = (kGraphRecords - 1) * request.intervalTenths / 10.0;
+    state.graphInfo.udtHorzScale.sngHorzScale = static_cast<float>(span / 10);
+    refs.timeAxis->Minimum = 0;
+    refs.timeAxis->Maximum = span;
+    for (size_t c = 1; c <= 8; ++c) {
+        if (!inputs.inUse[c] || (c <= 4 && plan[c].low == plan[c].high)) continue;
+        refs.vertAxis[c]->Visible = true;
+        refs.vertAxis[c]->Minimum = c <= 4 ? plan[c].low : 0;
+        refs.vertAxis[c]->Maximum = c <= 4 ? plan[c].high : 1;
+    }
+
+    drawGraph(refs, state, inputs, 0, kDisplayedGraph);
+
+    const render::RenderStatus status = render::renderChart(root, options, path, *format);
+    if (!status) {
+        err << "ztgraph render: " << status.error << "\n";
+        return 1;
+    }
+    out << "wrote " << path << "\n";
+    return 0;
+}
+
+}  // namespace zt::cli
