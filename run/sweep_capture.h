@@ -11,8 +11,8 @@
 #include <span>
 #include <vector>
 
-#include "platform/host_records.h"
 #include "graph/conversion_table.h"
+#include "platform/host_records.h"
 
 namespace zt {
 
@@ -30,9 +30,9 @@ struct SweepSetup {
     double triggerLevel = 0;
     int triggerChannel = 0;  // "Inside": channel 1 to 8
     bool triggerChannelDigital = false;
-    Conversion conversion;  // "Inside" on an analog channel
-    int64_t preTriggerTime = 0;   // tenths of a millisecond
-    double samplingTime = 0;      // tenths of a millisecond
+    Conversion conversion;       // "Inside" on an analog channel
+    int64_t preTriggerTime = 0;  // tenths of a millisecond
+    double samplingTime = 0;     // tenths of a millisecond
     // "Fault": analog channels 1 to 4 whose raw values are zeroed in faulted records.
     std::array<bool, 4> zeroOnFault{};
 };
