@@ -1,6 +1,7 @@
 #include "sim/sim_host.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "sim/drive_catalogue.h"
 
@@ -55,19 +56,37 @@ void SimHost::start() {
                                                : std::max(1, request_.lngInterval) * 10;
     sampling_ = true;
     block_ = 0;
-    timeMs_ = 0;
+    prepareWaveforms();
+}
+
+void SimHost::prepareWaveforms() {
+    WaveformRequest wave;
+    wave.scenario = scenario;
+    wave.intervalTenths = interval_;
+    wave.count = std::clamp(runRecords, 1, kGraphRecords);
+    wave.faultAtMs = faultAtMs;
+    for (std::size_t k = 0; k < 4; ++k) {
+        WaveformChannel& analog = wave.channel[k + 1];
+        analog.item = request_.intAnalogItem[k];
+        analog.station = request_.intAnalogTarget[k];
+        const int16_t decimals = std::clamp<int16_t>(request_.intDecPoint[k], 0, 3);
+        analog.countsPerUnit =
+            countsPerUnit ? countsPerUnit(static_cast<int>(k) + 1) : std::pow(10.0, decimals);
+        WaveformChannel& digital = wave.channel[k + 5];
+        digital.item = request_.intDigitalItem[k];
+        digital.station = request_.intDigitalTarget[k];
+    }
+    waveform_ = driveWaveforms(wave);
+    waveformPos_ = 0;
 }
 
 SampleRecord SimHost::nextRecord() {
-    if (scriptPos_ < script_.size()) {
-        SampleRecord r = script_[scriptPos_++];
-        timeMs_ += r.lngDiffTime * 0.1;
-        return r;
-    }
-    timeMs_ += interval_ * 0.1;
-    const int16_t items[4] = {request_.intAnalogItem[0], request_.intAnalogItem[1],
-                              request_.intAnalogItem[2], request_.intAnalogItem[3]};
-    return driveSample(profile, timeMs_, interval_, items);
+    if (scriptPos_ < script_.size()) return script_[scriptPos_++];
+    if (waveform_.empty()) prepareWaveforms();
+    // Every sample comes one interval after the one before, also where the run starts over.
+    SampleRecord r = waveform_[waveformPos_++ % waveform_.size()];
+    r.lngDiffTime = interval_;
+    return r;
 }
 
 bool SimHost::deliverBlock() {

@@ -10,12 +10,13 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <vector>
 
 #include "control/graph_control_interface.h"
 #include "platform/graph_host_interface.h"
 #include "platform/host_records.h"
-#include "sim/host_waveforms.h"
+#include "sim/drive_waveforms.h"
 
 namespace zt::sim {
 
@@ -28,8 +29,14 @@ class SimHost : public GraphHostSink {
 
     void ReqCommand(int32_t command) override;
 
-    // What the drive does while sampled.
-    DriveRunProfile profile;
+    // What the drive does while sampled: its run (acceleration, load step, deceleration, or a
+    // trip) spans `runRecords` samples and then starts over; `faultAtMs` trips it at that time.
+    DriveScenario scenario = DriveScenario::Typical;
+    int runRecords = kGraphRecords;
+    std::optional<double> faultAtMs;
+    // Raw counts per engineering unit of analog channel 1 to 4, asked once the request is
+    // complete; without it a count is one unit of the item's last decimal place.
+    std::function<double(int channel)> countsPerUnit;
     // Sample records per SetSamplingData call.
     int recordsPerBlock = 10;
     // Refuse the next starts: the host cannot sample.
@@ -57,6 +64,7 @@ class SimHost : public GraphHostSink {
     DispatchResult call(int32_t dispId, DispatchKind kind, std::vector<DispatchValue>& args);
     void start();
     SampleRecord nextRecord();
+    void prepareWaveforms();
 
     Invoke invoke_;
     std::map<int, int32_t> failures_;
@@ -64,7 +72,8 @@ class SimHost : public GraphHostSink {
     std::size_t scriptPos_ = 0;
     bool sampling_ = false;
     int block_ = 0;
-    double timeMs_ = 0;
+    std::vector<SampleRecord> waveform_;
+    std::size_t waveformPos_ = 0;
     int32_t interval_ = 1000;
     GRAPH_REQUEST request_{};
     std::vector<int32_t> commands_;
