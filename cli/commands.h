@@ -16,4 +16,7 @@ int runShow(const Args& args, std::ostream& out, std::ostream& err);
 // Draws a simulated drive run and writes the chart to a PNG, SVG or PDF file.
 int runRender(const Args& args, std::ostream& out, std::ostream& err);
 
+// Runs a capture end to end on the simulated host and writes the graph as pictures.
+int runDemo(const Args& args, std::ostream& out, std::ostream& err);
+
 }  // namespace zt::cli

@@ -13,6 +13,7 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
+    {"demo", zt::cli::runDemo, "capture a drive run on the simulated host and write its graph"},
     {"show", zt::cli::runShow, "build the control on the simulated host and print its surface"},
     {"render", zt::cli::runRender, "draw a simulated drive run to a PNG, SVG or PDF file"},
 };
@@ -28,8 +29,7 @@ void usage(std::ostream& out) {
 
 int main(int argc, char** argv) {
     zt::cli::Args args(argv + 1, argv + argc);
-    if (args.empty()) args.push_back(std::string(kCommands[0].name));
-    if (args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
+    if (args.empty() || args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
         usage(std::cout);
         return 0;
     }

@@ -13,6 +13,7 @@
 #include "control/graph_surface.h"
 #include "control/host_services.h"
 #include "graph/chart_refs.h"
+#include "graph/conversion_table.h"
 #include "graph/plot_inputs.h"
 #include "platform/chart/chart_root.h"
 #include "platform/common_library.h"
@@ -116,6 +117,9 @@ class ztGraphControl {
     chart::ChartRoot& chartRoot() { return CBGraph1; }
     const chart::ChartRoot& chartRoot() const { return CBGraph1; }
     const ChartRefs& chartRefs() const { return chart_; }
+    // How raw counts of analog channels 1 to 4 become the values on the graph, for the
+    // current configuration and request.
+    ConversionTable conversionTable();
 
   private:
     void initialize();

@@ -82,6 +82,10 @@ PlotInputs ztGraphControl::plotInputs() {
     return in;
 }
 
+ConversionTable ztGraphControl::conversionTable() {
+    return buildConversionTable(state_.chSetting, state_.sampData, plotInputs());
+}
+
 void ztGraphControl::prepareDisplayForRun() {
     const PlotInputs in = plotInputs();
     const int16_t speed = state_.sampSetting.intSamplingSpeed;
