@@ -50,6 +50,11 @@ std::optional<long long> wholeNumber(const std::string& text) {
 
 }  // namespace
 
+double effectiveInterval(const SAMPSETTING& setting) {
+    if (setting.intSamplingSpeed == kSpeedHighSpeed) return (setting.dblMask + 1) * 0.5;
+    return setting.dblSamplingInterval;
+}
+
 int itemsRead(int channelCount, int16_t triggerType, int16_t triggerTarget) {
     return channelCount + (triggerType == kTriggerFault && triggerTarget != kNoTriggerTarget);
 }

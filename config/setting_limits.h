@@ -42,6 +42,10 @@ int itemsRead(int channelCount, int16_t triggerType, int16_t triggerTarget);
 Limits intervalLimits(int16_t speed, int channelCount, int16_t triggerType, int16_t triggerTarget,
                       const INIFILE_ITEM& iniFile);
 
+// The time between two samples, ms: the monitor interval, or (mask + 1) half milliseconds at
+// "High Speed".
+double effectiveInterval(const SAMPSETTING& setting);
+
 // Bounds of the sampling time for the interval (monitor) or mask count (high speed).
 Limits samplingTimeLimits(int16_t speed, double interval, double mask);
 

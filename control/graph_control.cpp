@@ -8,7 +8,6 @@
 #include "graph/channel_colors.h"
 #include "graph/chart_setup.h"
 #include "graph/surface_layout.h"
-#include "run/channel_rules.h"
 
 namespace zt {
 

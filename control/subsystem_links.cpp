@@ -28,6 +28,9 @@ void ztGraphControl::linkSubsystems() {
 
     RunHooks& run = run_.hooks();
     run.lockSheets = [this](bool locked) { sheets_.setSheetsLocked(locked); };
+    run.channelIsSet = [this](int channel) { return sheets_.channelIsSet(channel); };
+    run.channelCount = [this] { return sheets_.ReturnChCount(); };
+    run.checkChannelOrder = [this] { return sheets_.ascendingOrderCheck(); };
     run.initializeSettings = [this] { return sheets_.initializeSettings(); };
     run.itemSigned = [this](int channel) { return itemFlag(channel, kAttrSign); };
     run.itemZeroedOnFault = [this](int channel) { return itemFlag(channel, kAttrZeroOnFault); };

@@ -3,18 +3,17 @@
 #include <cmath>
 
 #include "platform/text/rounding.h"
-#include "run/channel_rules.h"
 
 namespace zt {
 
 void buildGraphRequest(GRAPH_REQUEST& r, const SAMPSETTING& setting,
-                       const ChannelSettings& channels) {
+                       const ChannelSettings& channels, const ChannelsSet& set) {
     const int32_t reserved88 = r.lngReserved[1];
     r = GRAPH_REQUEST{};
     r.lngReserved[1] = reserved88;
 
     for (int ch = 1; ch <= kChannelCount; ++ch) {
-        if (!channelInUse(channels, ch)) continue;
+        if (!set[static_cast<std::size_t>(ch)]) continue;
         const CHSETTING& c = channels[static_cast<std::size_t>(ch)];
         const auto item = static_cast<int16_t>(c.lngSamplingItem);
         const auto target = static_cast<int16_t>(c.lngTargetNo);

@@ -2,6 +2,7 @@
 // with the host's units, decimal places and base values.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "config/settings_model.h"
@@ -11,11 +12,14 @@
 
 namespace zt {
 
-// Rebuilds `request` from the settings: counts, items and targets of the channels in use,
-// the trigger and sampling fields; the host's fields and offsets 84, 92 and 96 are cleared,
+// Channels 1 to 8 that are set (element 0 unused).
+using ChannelsSet = std::array<bool, kChannelCount + 1>;
+
+// Rebuilds `request` from the settings: counts, items and targets of the set channels, the
+// trigger and sampling fields; the host's fields and offsets 84, 92 and 96 are cleared,
 // offset 88 is kept.
 void buildGraphRequest(GRAPH_REQUEST& request, const SAMPSETTING& setting,
-                       const ChannelSettings& channels);
+                       const ChannelSettings& channels, const ChannelsSet& set);
 
 // Base value of an analog item as the plot uses it. `model057`: the station's model code has
 // 0x057 in its top 12 bits.

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "control/comm_error_text.h"
-#include "run/channel_rules.h"
 #include "run/graph_request.h"
 #include "run/run_state_apply.h"
 #include "run/start_checks.h"
@@ -14,9 +13,12 @@ RunControl::RunControl(GraphState& state, GraphSurface& surface, HostServices& h
                        CommandSink raise)
     : state_(state), surface_(surface), host_(host), raise_(std::move(raise)) {}
 
+int16_t RunControl::channelCount() const {
+    return hooks_.channelCount ? hooks_.channelCount() : int16_t{0};
+}
+
 void RunControl::changeRunState(int16_t event) {
-    const RecountFacts facts{state_.graphInfo.udtHistoryState.lngGraphTotal,
-                             channelsInUse(state_.chSetting)};
+    const RecountFacts facts{state_.graphInfo.udtHistoryState.lngGraphTotal, channelCount()};
     state_.runState = nextRunState(state_.runState, event, facts);
     applyRunState();
 }
@@ -57,7 +59,7 @@ void RunControl::cmdStart_Click() {
     state_.startErr = false;
     if (!stationsReady()) return;
 
-    const int16_t count = channelsInUse(state_.chSetting);
+    const int16_t count = channelCount();
     if (count < 1 || count > kChannelCount) {
         surface_.cmdStart.Enabled = false;
         host_.notify(msg::kAllChannelsNotSet);
@@ -136,7 +138,10 @@ void RunControl::EventResCommand(int32_t lngResult) {
 }
 
 GRAPH_REQUEST RunControl::GetGraphRequest() {
-    buildGraphRequest(state_.request, state_.sampSetting, state_.chSetting);
+    ChannelsSet set{};
+    for (int c = 1; c <= kChannelCount; ++c)
+        set[static_cast<std::size_t>(c)] = hooks_.channelIsSet && hooks_.channelIsSet(c);
+    buildGraphRequest(state_.request, state_.sampSetting, state_.chSetting, set);
     return state_.request;
 }
 

@@ -42,6 +42,7 @@ class RunControl {
     void SetSamplingData(GRAPH_RESULT_INFO& udtGraphResultInfo, int32_t lngErrCode);
 
   private:
+    int16_t channelCount() const;
     bool stationsReady();
     void beginSweep(bool clearAll);
     void showTriggerPhase(int16_t before);

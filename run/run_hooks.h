@@ -35,6 +35,12 @@ struct RunHooks {
     // Clear with a graph present, after the user confirmed: empty every history slot.
     std::function<void()> clearAllGraphs;
 
+    // Channel rules of the channel sheet: the channel has a station and an item; the number of
+    // set channels; the ascending-order check, which shows its own message when it fails.
+    std::function<bool(int channel)> channelIsSet;
+    std::function<int16_t()> channelCount;
+    std::function<bool()> checkChannelOrder;
+
     // Item attributes of a channel's item: signed values; zeroed on a fault of its station.
     std::function<bool(int channel)> itemSigned;
     std::function<bool(int channel)> itemZeroedOnFault;

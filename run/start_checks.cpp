@@ -2,15 +2,18 @@
 
 #include <cmath>
 
+#include "config/setting_limits.h"
 #include "control/comm_error_text.h"
-#include "run/channel_rules.h"
-#include "run/sampling_limits.h"
 
 namespace zt {
 
 namespace {
 
 constexpr double kLevelLimit = 99999999.9;
+
+bool isSet(const StartCheckContext& ctx, int channel) {
+    return ctx.hooks.channelIsSet && ctx.hooks.channelIsSet(channel);
+}
 
 bool fail(const StartCheckContext& ctx, const msg::Message& message) {
     ctx.host.notify(message);
@@ -71,7 +74,7 @@ bool checkTriggerSetting(const StartCheckContext& ctx) {
     }
     if (t.intTriggerType == 1) {
         const int ch = t.intTriggerTarget;
-        if (!channelInUse(ctx.state.chSetting, ch)) return fail(ctx, msg::kTriggerChannelNotSet);
+        if (!isSet(ctx, ch)) return fail(ctx, msg::kTriggerChannelNotSet);
         if (ctx.state.chSetting[static_cast<std::size_t>(ch)].intAD != 0) return true;
         const bool isSigned = ctx.hooks.itemSigned && ctx.hooks.itemSigned(ch);
         const double lower = isSigned ? -kLevelLimit : 0.0;
@@ -84,13 +87,15 @@ bool checkTriggerSetting(const StartCheckContext& ctx) {
 
 bool checkSamplingSetting(const StartCheckContext& ctx) {
     const GraphState& s = ctx.state;
-    const IntervalBounds bounds =
-        samplingIntervalBounds(s.sampSetting, channelsInUse(s.chSetting), s.iniFileItem);
+    const int count = ctx.hooks.channelCount ? ctx.hooks.channelCount() : 0;
+    const Limits bounds =
+        intervalLimits(s.sampSetting.intSamplingSpeed, count, s.sampSetting.intTriggerType,
+                       s.sampSetting.intTriggerTarget, s.iniFileItem);
     if (s.sampSetting.intSamplingSpeed == 1 && !highSpeedAbilityCheck(ctx)) return false;
 
     const double e = effectiveInterval(s.sampSetting);
     bool ok = true;
-    if (!(e >= bounds.lower && e <= bounds.upper)) ok = fail(ctx, msg::kIntervalOutOfRange);
+    if (!(e >= bounds.min && e <= bounds.max)) ok = fail(ctx, msg::kIntervalOutOfRange);
     const double lowest = e * 100;
     const double highest = e * 10000;
     const double time = s.sampSetting.dblSamplingTime;
@@ -101,7 +106,7 @@ bool checkSamplingSetting(const StartCheckContext& ctx) {
 bool checkSamplingItems(const StartCheckContext& ctx) {
     const int16_t speed = ctx.state.sampSetting.intSamplingSpeed;
     for (int ch = 1; ch <= kChannelCount; ++ch) {
-        if (!channelInUse(ctx.state.chSetting, ch)) continue;
+        if (!isSet(ctx, ch)) continue;
         if (ctx.hooks.samplingItemOffered && !ctx.hooks.samplingItemOffered(ch, speed))
             return fail(ctx, speed == 1 ? msg::kSelectHighSpeedItem : msg::kSelectMonitorItem);
     }
@@ -109,8 +114,7 @@ bool checkSamplingItems(const StartCheckContext& ctx) {
 }
 
 bool checkChannelOrder(const StartCheckContext& ctx) {
-    if (firstOutOfOrderChannel(ctx.state.chSetting) == 0) return true;
-    return fail(ctx, msg::kAscendingOrder);
+    return !ctx.hooks.checkChannelOrder || ctx.hooks.checkChannelOrder();
 }
 
 bool runStartChecks(const StartCheckContext& ctx) {

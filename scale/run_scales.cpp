@@ -3,17 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "config/setting_limits.h"
+
 namespace zt {
 
 namespace {
 
 constexpr double kDivisions = 10;
-// High-speed sampling takes a sample every (mask + 1) half milliseconds.
-constexpr double kHighSpeedUnitMs = 0.5;
-
-double effectiveInterval(const SAMPSETTING& s) {
-    return s.intSamplingSpeed == 1 ? (s.dblMask + 1) * kHighSpeedUnitMs : s.dblSamplingInterval;
-}
 
 }  // namespace
 

@@ -12,7 +12,6 @@
 #include "control/graph_control.h"
 #include "control/graph_control_interface.h"
 #include "platform/text/format_pattern.h"
-#include "run/channel_rules.h"
 #include "sim/sim_common_library.h"
 #include "sim/sim_host.h"
 

@@ -135,7 +135,8 @@ TEST(GraphRequestRecord, AnalogChannelsKeepTheirOwnElements) {
     s.intTriggerTarget = 3;
     GRAPH_REQUEST r;
     r.lngReserved = {7, 8, 9, 10};
-    buildGraphRequest(r, s, ch);
+    const ChannelsSet set{false, false, true, false, true};
+    buildGraphRequest(r, s, ch, set);
     EXPECT_EQ(r.intAnalogCount, 2);
     EXPECT_EQ(r.intAnalogItem, (std::array<int16_t, 4>{0, 202, 0, 203}));
     EXPECT_EQ(r.intAnalogTarget, (std::array<int16_t, 4>{0, 1, 0, 2}));
@@ -143,7 +144,7 @@ TEST(GraphRequestRecord, AnalogChannelsKeepTheirOwnElements) {
     EXPECT_EQ(r.intTriggerMode, 2);
     EXPECT_EQ(r.lngReserved, (std::array<int32_t, 4>{0, 8, 0, 0}));
     s.intTriggerType = 1;
-    buildGraphRequest(r, s, ch);
+    buildGraphRequest(r, s, ch, set);
     EXPECT_EQ(r.intTriggerStation, 255);
     EXPECT_EQ(encode(r).size(), 100u);
 }
