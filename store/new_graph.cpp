@@ -17,13 +17,19 @@ NewGraphOutcome enterNewGraph(GraphState& state, const std::string& stamp, int c
         return NewGraphOutcome::NotTriggered;
     }
 
-    // Slot i + 1 takes slot i for i = max-1 .. 0, newest last so nothing is read after it is
-    // overwritten; the old last slot is dropped. Slot 0 keeps its copy.
+    // Slot i + 1 takes slot i: the older slots move down by swapping their storage, the old
+    // last slot ends up in slot 1 and is overwritten with a copy of slot 0, which stays as it
+    // is. Only one graph is copied.
     const int max = std::clamp<int>(state.version.lngHistoryMax, 0, kHistorySlots - 1);
-    for (int i = max - 1; i >= 0; --i) {
-        history.udtGraphResultInfo[i + 1] = history.udtGraphResultInfo[i];
-        history.strComments[i + 1] = history.strComments[i];
-        history.strTimeStamps[i + 1] = history.strTimeStamps[i];
+    if (max >= 1) {
+        for (int i = max - 1; i >= 1; --i) {
+            std::swap(history.udtGraphResultInfo[i + 1], history.udtGraphResultInfo[i]);
+            std::swap(history.strComments[i + 1], history.strComments[i]);
+            std::swap(history.strTimeStamps[i + 1], history.strTimeStamps[i]);
+        }
+        history.udtGraphResultInfo[1] = history.udtGraphResultInfo[0];
+        history.strComments[1] = history.strComments[0];
+        history.strTimeStamps[1] = history.strTimeStamps[0];
     }
     if (shown.lngGraphTotal < max) ++shown.lngGraphTotal;
     ++history.lngGraphCount;
