@@ -23,6 +23,8 @@ void samplingReplies(benchmark::State& st, bool triggered) {
     control.surface().sprChannel.chooseListItem(1, 2, "01");
     control.surface().sprChannel.chooseListItem(1, 3, "*Output frequency");
     s.sampSetting.intSamplingMode = 1;
+    // Sweeps of a full graph: 10,000 records of 100 ms.
+    s.sampSetting.dblSamplingTime = 1000000;
     if (triggered) {
         s.sampSetting.intTriggerType = 1;
         s.sampSetting.intTriggerTarget = 1;
