@@ -104,6 +104,9 @@ void ztGraphControl::initialize() {
     s.tbsGraphOp.select(1);
     showSelectedPanel(s);
 
+    // 16. Axis labels in the common library's font.
+    if (const std::optional<Font> font = host_.common().GetFont()) setAxisFont(chart_, *font);
+
     // 17. Names of the built-in two-channel items.
     state_.twoChannelItemNames = {host_.text(msg::kPositionCommand),
                                   host_.text(msg::kCurrentPosition), host_.text(msg::kDroopPulse)};

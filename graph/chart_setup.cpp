@@ -68,14 +68,16 @@ void configureChart(const ChartRefs& r, ChannelSettings& chSetting,
         chSetting[static_cast<size_t>(c)].lngGraphColor =
             kDefaultChannelColor[static_cast<size_t>(c)];
 
-    if (axisFont) {
-        for (int c = 1; c <= 8; ++c) {
-            r.vertAxis[c]->LabelFont.name = axisFont->name;
-            r.vertAxis[c]->LabelFont.size = axisFont->size;
-        }
-        r.timeAxis->LabelFont.name = axisFont->name;
-        r.timeAxis->LabelFont.size = axisFont->size;
+    if (axisFont) setAxisFont(r, *axisFont);
+}
+
+void setAxisFont(const ChartRefs& r, const Font& font) {
+    for (int c = 1; c <= 8; ++c) {
+        r.vertAxis[c]->LabelFont.name = font.name;
+        r.vertAxis[c]->LabelFont.size = font.size;
     }
+    r.timeAxis->LabelFont.name = font.name;
+    r.timeAxis->LabelFont.size = font.size;
 }
 
 void setScaleMargin(const ChartRefs& r, int16_t intChNumber) {

@@ -17,6 +17,9 @@ namespace zt {
 void configureChart(const ChartRefs& refs, ChannelSettings& chSetting,
                     const std::optional<Font>& axisFont);
 
+// Every vertical axis and the time axis label their ticks in `font`'s name and size.
+void setAxisFont(const ChartRefs& refs, const Font& font);
+
 // Left margin of the areas, the time-base area, the grid and the time axis: 80 pixels while
 // one channel's scale is shown (`intChNumber` not 0), 320 while all are. The time axis runs
 // from the margin to the chart's width.
