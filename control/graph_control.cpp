@@ -7,6 +7,7 @@
 #include "control/ini_file_access.h"
 #include "graph/channel_colors.h"
 #include "graph/chart_setup.h"
+#include "graph/plot_graph.h"
 #include "graph/surface_layout.h"
 
 namespace zt {
@@ -238,9 +239,11 @@ void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER
     }
     // Station cells and rows; a channel whose station is no longer present loses it.
     sheets_.refreshStationLists();
-    if (clearPlotSeriesHook) clearPlotSeriesHook();
+    sheets_.showSettings();
+    showSelectedSheets(surface_);
+    // The displayed graph is discarded and the control returns to its ready state.
+    clearDisplayedGraph(chart_, state_);
     callHook(run_.hooks().redrawVertScaleLabels);
-    if (resetCursorsHook) resetCursorsHook();
     run_.changeRunState(DataDeleted);
 }
 

@@ -100,9 +100,6 @@ class ztGraphControl {
 
     // Run control and the hooks through which it reaches the other subsystems.
     RunControl& run() { return run_; }
-    // Hooks of SetSysInfo: clear the plotted series; reset both cursors.
-    std::function<void()> clearPlotSeriesHook;
-    std::function<void()> resetCursorsHook;
 
     // What a person and a test can see and touch.
     GraphSurface& surface() { return surface_; }

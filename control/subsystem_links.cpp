@@ -61,8 +61,6 @@ void ztGraphControl::linkSubsystems() {
         const double shown = state_.graphInfo.udtHorzScale.sngHorzScale * 10.0;
         return chart_.timeBase->pointCount() > 0 && shown < state_.sampSetting.dblSamplingTime;
     };
-
-    clearPlotSeriesHook = [this] { clearDisplayedGraph(chart_, state_); };
 }
 
 bool ztGraphControl::itemFlag(int channel, int16_t column) {
