@@ -270,27 +270,12 @@ TEST(SpreadSheet, NumberCellShowsFormattedTextAndKeepsWhatIsNotANumber) {
     EXPECT_EQ(t.s.value(1, 4), "-7.5");
 }
 
-struct NumberTextCase {
-    const char* typed;
-    std::optional<double> number;
-};
-
-class CellNumberParsing : public ::testing::TestWithParam<NumberTextCase> {};
-
-TEST_P(CellNumberParsing, AcceptsOnlyPlainNumbers) {
-    EXPECT_EQ(parseCellNumber(GetParam().typed), GetParam().number);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    SpreadSheet, CellNumberParsing,
-    ::testing::Values(NumberTextCase{"+5", 5}, NumberTextCase{" -0.25\t", -0.25},
-                      NumberTextCase{".5", 0.5}, NumberTextCase{"1e3", 1000},
-                      NumberTextCase{"", std::nullopt}, NumberTextCase{".", std::nullopt},
-                      NumberTextCase{"1,000", std::nullopt}, NumberTextCase{"inf", std::nullopt},
-                      NumberTextCase{"nan", std::nullopt}, NumberTextCase{"1e999", std::nullopt},
-                      NumberTextCase{"1 2", std::nullopt}));
-
-TEST(SpreadSheet, NumberFormattingRoundsAndNeverShowsMinusZero) {
+TEST(SpreadSheet, CellNumbersParsePlainNumbersOnlyAndFormatWithoutMinusZero) {
+    for (const char* bad : {"", ".", "-", "1,000", "inf", "nan", "0x10", "1e999", "1 2"})
+        EXPECT_EQ(parseCellNumber(bad), std::nullopt) << bad;
+    EXPECT_EQ(parseCellNumber(" -0.25\t"), -0.25);
+    EXPECT_EQ(parseCellNumber("+5"), 5);
+    EXPECT_EQ(parseCellNumber("1e3"), 1000);
     EXPECT_EQ(formatCellNumber(0.125, 2), "0.12");  // binary value just below the half
     EXPECT_EQ(formatCellNumber(-0.001, 2), "0.00");
     EXPECT_EQ(formatCellNumber(1e300, 0).size(), 301u);
