@@ -75,17 +75,5 @@ TEST(NumberTextTest, StrIntegerAndHexForms) {
     EXPECT_EQ(hexText16(-1), "FFFF");
 }
 
-TEST(NumberTextTest, SignificantDigitsRoundAndNormalise) {
-    SignificantDigits sd = significantDigits(-1234.5, 15);
-    EXPECT_TRUE(sd.negative);
-    EXPECT_EQ(sd.digits, "12345");
-    EXPECT_EQ(sd.exponent, 3);
-    sd = significantDigits(9.9999999, 7);
-    EXPECT_EQ(sd.digits, "1");
-    EXPECT_EQ(sd.exponent, 1);
-    EXPECT_TRUE(significantDigits(-0.0, 15).digits.empty());
-    EXPECT_TRUE(significantDigits(std::nan(""), 15).digits.empty());
-}
-
 }  // namespace
 }  // namespace zt::text

@@ -64,18 +64,6 @@ INSTANTIATE_TEST_SUITE_P(
                     ParseCase{"123456789012345678901234567890", 1.2345678901234568e29},
                     ParseCase{"1e-400", 0}, ParseCase{"-0", 0}));
 
-TEST(ParseNumberTest, KeepsDigitsExactlyForRounding) {
-    std::optional<DecimalNumber> number = parseDecimal("-002.5000", HostLocale{});
-    ASSERT_TRUE(number.has_value());
-    EXPECT_TRUE(number->negative);
-    EXPECT_EQ(number->digits, "25");
-    EXPECT_EQ(number->exponent, -1);
-    number = parseDecimal("0.000", HostLocale{});
-    ASSERT_TRUE(number.has_value());
-    EXPECT_TRUE(number->isZero());
-    EXPECT_FALSE(number->negative);
-}
-
 TEST(ParseNumberTest, HugeAndBrokenInputsStayBounded) {
     const HostLocale l;
     EXPECT_FALSE(parseNumber(std::string(100000, '9'), l).has_value());  // beyond the range

@@ -40,16 +40,6 @@ SpeedLists analogLists(SimCommon& common, const DriveModel& m) {
     return lists;
 }
 
-TEST(DriveCatalogue, EveryModelHasItsOwnCodeAndBothKindsOfItems) {
-    std::set<int32_t> modelCodes;
-    for (const DriveModel& m : driveModels()) {
-        EXPECT_TRUE(modelCodes.insert(m.modelCode).second) << m.key;
-        EXPECT_FALSE(modelItems(m, 0).empty()) << m.key;
-        EXPECT_FALSE(modelItems(m, 1).empty()) << m.key;
-        EXPECT_TRUE(modelItems(m, 2).empty()) << m.key;
-    }
-}
-
 TEST(DriveCatalogue, ItemsHaveKnownUnitsAndStarredNamesAreTheHighSpeedOnes) {
     for (const auto& d : analogItemDefs()) {
         const ITEM_INFO i = toItemInfo(d);
