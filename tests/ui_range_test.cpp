@@ -86,11 +86,8 @@ TEST(ScrollBarTest, StepsBelowOneCountAsOneAndHugeStepsClamp) {
     s.bar.SmallChange = 0;
     s.bar.LargeChange = 2147483647;
     s.bar.lineRight();
-    EXPECT_EQ(s.bar.value(), 1);
     s.bar.pageRight();
-    EXPECT_EQ(s.bar.value(), 32767);
-    s.bar.pageLeft();
-    EXPECT_EQ(s.bar.value(), -32768);
+    EXPECT_EQ(s.log, (std::vector<std::string>{"C1", "C32767"}));
 }
 
 struct SpinCase {
