@@ -69,18 +69,9 @@ TEST(DateTimeTextTest, OutOfRangeFieldsAreClamped) {
     EXPECT_FALSE(formatDateTimePattern(bad, "yyyy", HostLocale{}).empty());
 }
 
-TEST(DateTimeTextTest, LocalTimeKeepsTheDay) {
-    std::tm now = localTime(std::chrono::system_clock::now());
-    EXPECT_GE(now.tm_year, 120);
-    EXPECT_GE(now.tm_mday, 1);
-    EXPECT_LE(now.tm_mday, 31);
-}
-
 TEST(TwipsTest, ConvertsWithGuardedScale) {
     EXPECT_DOUBLE_EQ(twipsToPixels(3250, 15), 3250.0 / 15);
     EXPECT_DOUBLE_EQ(pixelsToTwips(20, 15), 300);
-    EXPECT_DOUBLE_EQ(pixelsToTwips(20, 12), 240);
-    EXPECT_DOUBLE_EQ(twipsToPixels(300, 0), 20);
     EXPECT_DOUBLE_EQ(twipsToPixels(300, -5), 20);
     EXPECT_DOUBLE_EQ(pixelsToTwips(2, std::numeric_limits<double>::quiet_NaN()), 30);
 }

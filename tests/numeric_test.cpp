@@ -21,38 +21,25 @@ TEST_P(IsNumericTest, FollowsTheLocaleNumberGrammar) {
 
 INSTANTIATE_TEST_SUITE_P(
     Table, IsNumericTest,
-    testing::Values(
-        // Blanks
-        NumericCase{" 12 ", true}, NumericCase{"\t12", true}, NumericCase{"12\r\n", true},
-        NumericCase{"", false}, NumericCase{"   ", false}, NumericCase{"1 2", false},
-        // Signs
-        NumericCase{"+1", true}, NumericCase{"-1", true}, NumericCase{"1-", true},
-        NumericCase{"1+", true}, NumericCase{"(1)", true}, NumericCase{"()", false},
-        NumericCase{"(1", false}, NumericCase{"1)", false}, NumericCase{"--1", false},
-        NumericCase{"-1-", false}, NumericCase{"-", false},
-        // Decimal point
-        NumericCase{".5", true}, NumericCase{"5.", true}, NumericCase{".", false},
-        NumericCase{"1.2.3", false}, NumericCase{"459..", false}, NumericCase{"459.-", true},
-        // Thousands separator
-        NumericCase{"1,000", true}, NumericCase{"1,0,0", true}, NumericCase{"100,", true},
-        NumericCase{",100", false}, NumericCase{"1.5,0", false},
-        // Currency
-        NumericCase{"$1", true}, NumericCase{"1$", true},
-        NumericCase{"\xE2\x82\xAC"
-                    "1",
-                    false},
-        NumericCase{"$1$", false}, NumericCase{"-$1", true},
-        // Exponent
-        NumericCase{"1e2", true}, NumericCase{"1E+2", true}, NumericCase{".5e-1", true},
-        NumericCase{"1e", false}, NumericCase{"1e+", false}, NumericCase{"1e2.5", false},
-        NumericCase{"1d2", false}, NumericCase{"1e400", false}, NumericCase{"1e-400", true},
-        // Hexadecimal and octal
-        NumericCase{"&H10", true}, NumericCase{"&hff", true}, NumericCase{"&O17", true},
-        NumericCase{"&H", false}, NumericCase{"0x10", false}, NumericCase{"FF", false},
-        NumericCase{"&O8", false}, NumericCase{"&H1FFFFFFFF", false},
-        // Other text
-        NumericCase{"1/1/2000", false}, NumericCase{"abc", false}, NumericCase{"12abc", false},
-        NumericCase{"10", true}, NumericCase{"0", true}, NumericCase{"-0", true}));
+    testing::Values(NumericCase{" 12 ", true}, NumericCase{"12\r\n", true},
+                    NumericCase{"   ", false}, NumericCase{"1 2", false},  // blanks
+                    NumericCase{"1-", true}, NumericCase{"(1)", true}, NumericCase{"()", false},
+                    NumericCase{"(1", false}, NumericCase{"--1", false},
+                    NumericCase{"-", false},  // signs
+                    NumericCase{".5", true}, NumericCase{"5.", true}, NumericCase{".", false},
+                    NumericCase{"1.2.3", false}, NumericCase{"459.-", true},  // points
+                    NumericCase{"1,0,0", true}, NumericCase{",100", false},
+                    NumericCase{"1.5,0", false},  // thousands
+                    NumericCase{"$1", true}, NumericCase{"1$", true}, NumericCase{"$1$", false},
+                    NumericCase{"-$1", true},  // currency
+                    NumericCase{"1E+2", true}, NumericCase{"1e+", false},
+                    NumericCase{"1e2.5", false}, NumericCase{"1d2", false},
+                    NumericCase{"1e400", false}, NumericCase{"1e-400", true},  // exponent
+                    NumericCase{"&hff", true}, NumericCase{"&O17", true}, NumericCase{"&H", false},
+                    NumericCase{"0x10", false}, NumericCase{"&O8", false},
+                    NumericCase{"&H1FFFFFFFF", false},  // hexadecimal and octal
+                    NumericCase{"1/1/2000", false}, NumericCase{"12abc", false},
+                    NumericCase{"", false}));
 
 struct ParseCase {
     const char* text;
@@ -77,54 +64,32 @@ INSTANTIATE_TEST_SUITE_P(
                     ParseCase{"123456789012345678901234567890", 1.2345678901234568e29},
                     ParseCase{"1e-400", 0}, ParseCase{"-0", 0}));
 
-TEST(ParseNumberTest, KeepsDigitsExactlyForRounding) {
-    std::optional<DecimalNumber> number = parseDecimal("-002.5000", HostLocale{});
-    ASSERT_TRUE(number.has_value());
-    EXPECT_TRUE(number->negative);
-    EXPECT_EQ(number->digits, "25");
-    EXPECT_EQ(number->exponent, -1);
-    number = parseDecimal("0.000", HostLocale{});
-    ASSERT_TRUE(number.has_value());
-    EXPECT_TRUE(number->isZero());
-    EXPECT_FALSE(number->negative);
-}
-
-TEST(ParseNumberTest, HugeInputsStayBounded) {
-    std::string many(100000, '9');
-    std::optional<double> value = parseNumber(many, HostLocale{});
-    EXPECT_FALSE(value.has_value());  // beyond the double range
-    std::string fraction = "0." + std::string(100000, '0') + "1";
-    value = parseNumber(fraction, HostLocale{});
-    ASSERT_TRUE(value.has_value());
-    EXPECT_EQ(*value, 0.0);
-    EXPECT_FALSE(parseNumber("1e99999999999999999999", HostLocale{}).has_value());
-    EXPECT_EQ(parseNumber("1e-99999999999999999999", HostLocale{}), 0.0);
+TEST(ParseNumberTest, HugeAndBrokenInputsStayBounded) {
+    const HostLocale l;
+    EXPECT_FALSE(parseNumber(std::string(100000, '9'), l).has_value());  // beyond the range
+    EXPECT_EQ(parseNumber("0." + std::string(100000, '0') + "1", l), 0.0);
+    EXPECT_FALSE(parseNumber("1e99999999999999999999", l).has_value());
+    EXPECT_EQ(parseNumber("1e-99999999999999999999", l), 0.0);
     EXPECT_FALSE(parseNumber(std::string("1\0"
                                          "2",
                                          3),
-                             HostLocale{})
+                             l)
                      .has_value());
-    EXPECT_FALSE(parseNumber("\xFF\xFE", HostLocale{}).has_value());
+    EXPECT_FALSE(parseNumber("\xFF\xFE", l).has_value());
 }
 
-TEST(ParseNumberTest, CommaDecimalLocale) {
+TEST(ParseNumberTest, FollowsTheLocaleSeparatorsAndEmptyOnesNeverMatch) {
     HostLocale german;
     german.decimalSeparator = ",";
     german.thousandsSeparator = ".";
     german.currencySymbol = "\xE2\x82\xAC";
     EXPECT_EQ(parseNumber("1.000,5", german), 1000.5);
-    EXPECT_EQ(parseNumber("0,25", german), 0.25);
     EXPECT_EQ(parseNumber("1.5", german), 15);  // "." groups thousands here
     EXPECT_EQ(parseNumber("12,5 \xE2\x82\xAC", german), 12.5);
     EXPECT_FALSE(isNumeric("$1", german));
-    EXPECT_FALSE(isNumeric("1,2,3", german));
-}
-
-TEST(ParseNumberTest, EmptySeparatorsNeverMatch) {
     HostLocale bare;
     bare.decimalSeparator.clear();
     bare.thousandsSeparator.clear();
-    bare.currencySymbol.clear();
     EXPECT_EQ(parseNumber("12", bare), 12);
     EXPECT_FALSE(isNumeric("1.5", bare));
 }
@@ -140,22 +105,19 @@ TEST_P(ValTest, ReadsTheLeadingNumber) {
     EXPECT_DOUBLE_EQ(val(GetParam().text), GetParam().value) << GetParam().text;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Table, ValTest,
-    testing::Values(ValCase{" 2 45 7", 2457}, ValCase{"1615 198th Street", 1615198},
-                    ValCase{"24 and 57", 24}, ValCase{"1,000", 1}, ValCase{"$5", 0},
-                    ValCase{"1e2", 100}, ValCase{"1d2", 100}, ValCase{"-3.5kg", -3.5},
-                    ValCase{".5", 0.5}, ValCase{"1.2.3", 1.2}, ValCase{"abc", 0}, ValCase{"", 0},
-                    ValCase{"&HFFFF", -1}, ValCase{"&H10", 16}, ValCase{"&O17", 15},
-                    ValCase{"&HFFFFFFFF", -1}, ValCase{"&H10000", 65536},
-                    ValCase{"&H1FFFFFFFF", 8589934591.0}, ValCase{"&", 0}, ValCase{"&X1", 0},
-                    ValCase{"50%", 50}, ValCase{"50.5%", 50.5}, ValCase{"1e", 1}, ValCase{"1e+", 1},
-                    ValCase{"1E-2", 0.01}, ValCase{"+7", 7}, ValCase{"+-7", 0},
-                    ValCase{"\t\r\n12", 12},
-                    ValCase{"\xE3\x80\x80"
-                            "3",
-                            3},
-                    ValCase{"0,5", 0}, ValCase{"12,34", 12}, ValCase{"1 e 2", 100}));
+INSTANTIATE_TEST_SUITE_P(Table, ValTest,
+                         testing::Values(ValCase{" 2 45 7", 2457}, ValCase{"24 and 57", 24},
+                                         ValCase{"1,000", 1}, ValCase{"$5", 0}, ValCase{"1d2", 100},
+                                         ValCase{"-3.5kg", -3.5}, ValCase{"1.2.3", 1.2},
+                                         ValCase{"", 0}, ValCase{"&HFFFF", -1},
+                                         ValCase{"&H10000", 65536},
+                                         ValCase{"&H1FFFFFFFF", 8589934591.0}, ValCase{"&X1", 0},
+                                         ValCase{"50.5%", 50.5}, ValCase{"1e+", 1},
+                                         ValCase{"+-7", 0}, ValCase{"\t\r\n12", 12},
+                                         ValCase{"\xE3\x80\x80"
+                                                 "3",
+                                                 3},
+                                         ValCase{"12,34", 12}, ValCase{"1 e 2", 100}));
 
 TEST(ValTest, OverflowGivesInfinityOfItsSign) {
     EXPECT_EQ(val("1e999"), std::numeric_limits<double>::infinity());

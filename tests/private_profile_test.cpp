@@ -68,30 +68,19 @@ const char* const kReadFile =
     "Empty=\r\n"
     "Quoted=  \"  a \"  \r\n"
     "Mixed=\"a'\r\n"
-    "Inner=\"'a'\"\r\n"
-    "Single='x'\r\n"
-    "Lone=\"\r\n"
     "Eq=b=c\r\n"
     "Inline=v ;x\r\n"
-    "#k=1\r\n"
     "  ;Commented=1\r\n"
     "120,0,5,-312,4000,0,0\r\n"
-    "\v Tabbed\t=\tt\v\r\n"
     "Dup=first\r\n"
     "dup=second\r\n"
     "\r\n"
-    "[ Spaced ]\r\n"
-    "k=spaced\r\n"
-    "[Main]\r\n"
+    "[ Spaced ]\n"
+    "k=spaced\r"
+    "[Main]\n\r"
     "Later=1\r\n"
-    "[Open\r\n"
-    "k=open\r\n"
     "[a]b]\r\n"
-    "k=ab\r\n"
-    "[Tail]x=1\r\n"
-    "y=2\r\n"
-    "[]\r\n"
-    "k=unnamed\r\n";
+    "k=ab\r\n";
 
 struct ReadCase {
     const char* section;
@@ -114,69 +103,29 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(ReadCase{"Main", "Speed", "12"},         // key and value trimmed
                       ReadCase{"mAIN", "SPEED", "12"},         // names ignore case
                       ReadCase{" Main ", " Speed ", "12"},     // spaces around parameters
-                      ReadCase{"\tMain", "Speed", "dflt"},     // a tab in a parameter stays
                       ReadCase{"Main", "Empty", ""},           // empty value, not the default
                       ReadCase{"Main", "Quoted", "  a "},      // outer quotes removed
                       ReadCase{"Main", "Mixed", "\"a'"},       // unmatched quotes stay
-                      ReadCase{"Main", "Inner", "'a'"},        // only one pair removed
-                      ReadCase{"Main", "Single", "x"},         // single quotes too
-                      ReadCase{"Main", "Lone", "\""},          // one quote char is no pair
                       ReadCase{"Main", "Eq", "b=c"},           // split at the first '='
                       ReadCase{"Main", "Inline", "v ;x"},      // no inline comments
-                      ReadCase{"Main", "#k", "1"},             // '#' starts no comment
                       ReadCase{"Main", ";Commented", "dflt"},  // comment line
                       ReadCase{"Main", "120,0,5,-312,4000,0,0", "dflt"},  // line without '='
-                      ReadCase{"Main", "Tabbed", "t"},                    // tab and VT trimmed
                       ReadCase{"Main", "dup", "first"},                   // first key wins
                       ReadCase{"Main", "Later", "dflt"},      // second [Main] is never searched
-                      ReadCase{"Spaced", "k", "spaced"},      // header name trimmed
-                      ReadCase{"Open", "k", "open"},          // header without ']'
+                      ReadCase{"Spaced", "k", "spaced"},      // header trimmed; LF and CR end lines
                       ReadCase{"a", "k", "ab"},               // name ends at the first ']'
-                      ReadCase{"Tail", "x", "dflt"},          // text after ']' is ignored
-                      ReadCase{"Tail", "y", "2"},             //
-                      ReadCase{"", "k", "unnamed"},           // "[]" is a section named ""
                       ReadCase{"", "orphan", "dflt"},         // lines before the first header
                       ReadCase{"Missing", "Speed", "dflt"},   // missing section
                       ReadCase{"Main", "Missing", "dflt"}));  // missing key
 
-struct LineEndCase {
-    const char* name;
-    const char* eol;
-};
-
-class ProfileLineEnds : public ProfileFileTest,
-                        public ::testing::WithParamInterface<LineEndCase> {};
-
-TEST_P(ProfileLineEnds, SplitLinesAtEveryLineEnd) {
-    const std::string e = GetParam().eol;
-    put("[A]" + e + "a=1" + e + e + "b = 2" + e + "[B]" + e + "c=3");
-    EXPECT_EQ(get("A", "a"), "1");
-    EXPECT_EQ(get("A", "b"), "2");
-    EXPECT_EQ(get("A", "c"), "dflt");
-    EXPECT_EQ(get("B", "c"), "3");
-}
-
-INSTANTIATE_TEST_SUITE_P(Ends, ProfileLineEnds,
-                         ::testing::Values(LineEndCase{"CrLf", "\r\n"}, LineEndCase{"Lf", "\n"},
-                                           LineEndCase{"Cr", "\r"}, LineEndCase{"LfCr", "\n\r"}),
-                         [](const auto& param) { return std::string(param.param.name); });
-
-TEST_F(ProfileFileTest, MissingFileGivesTheDefault) {
+TEST_F(ProfileFileTest, MissingFileGivesTheDefaultWithoutTrailingSpaces) {
     uint32_t returned = 0;
-    EXPECT_EQ(get("A", "a", "fallback", &returned), "fallback");
-    EXPECT_EQ(returned, 8u);
-    EXPECT_FALSE(fs::exists(file_));
-    EXPECT_EQ(findProfileString("A", "a", file_), std::nullopt);
-}
-
-TEST_F(ProfileFileTest, DefaultLosesOnlyTrailingSpaces) {
-    EXPECT_EQ(get("A", "a", "one two  "), "one two");
-    EXPECT_EQ(get("A", "a", "  d  "), "  d");
-    EXPECT_EQ(get("A", "a", "d\t "), "d\t");
-    EXPECT_EQ(get("A", "a", "\"q\""), "\"q\"");
-    uint32_t returned = 9;
+    EXPECT_EQ(get("A", "a", "one two  ", &returned), "one two");
+    EXPECT_EQ(returned, 7u);
+    EXPECT_EQ(get("A", "a", "  d\t "), "  d\t");
     EXPECT_EQ(get("A", "a", nullptr, &returned), "");
     EXPECT_EQ(returned, 0u);
+    EXPECT_FALSE(fs::exists(file_));
 }
 
 TEST_F(ProfileFileTest, Utf8MarkHidesTheFirstHeader) {
@@ -230,21 +179,14 @@ TEST_F(ProfileFileTest, ValueLengthWrapsAtSixteenBits) {
 // ---------------------------------------------------------------------------------------------
 // Name lists
 
-TEST_F(ProfileFileTest, NullSectionListsEverySectionName) {
-    put("x=0\r\n[section1]\r\nname1=val1\r\n[Section2]\r\n[section1]\r\n");
+TEST_F(ProfileFileTest, NullSectionListsSectionsNullKeyListsKeysOfTheFirstSection) {
+    put("x=0\r\n[s]\r\nname1=val1\r\nname2=\r\nname3\r\n;c=1\r\nNAME1=x\r\n[Section2]\r\n[S]\r\nz="
+        "1\r\n");
     uint32_t returned = 0;
-    EXPECT_EQ(get(nullptr, "ignored", "dflt", &returned),
-              std::string("section1\0Section2\0section1\0", 27));
-    EXPECT_EQ(returned, 27u);
-}
-
-TEST_F(ProfileFileTest, NullKeyListsKeysOfTheFirstSection) {
-    put("[s]\r\nname1=val1\r\nname2=\r\nname3\r\n;c=1\r\nNAME1=x\r\nname4=val4\r\n[S]\r\nz=1\r\n");
-    uint32_t returned = 0;
-    EXPECT_EQ(get("s", nullptr, "dflt", &returned),
-              std::string("name1\0name2\0NAME1\0name4\0", 24));
-    EXPECT_EQ(returned, 24u);
-    EXPECT_EQ(get("none", nullptr, "dflt"), "dflt");
+    EXPECT_EQ(get(nullptr, "ignored", "dflt", &returned), std::string("s\0Section2\0S\0", 13));
+    EXPECT_EQ(returned, 13u);
+    EXPECT_EQ(get("s", nullptr), std::string("name1\0name2\0NAME1\0", 18));
+    EXPECT_EQ(get("none", nullptr), "dflt");
 }
 
 struct ListCase {
@@ -269,17 +211,8 @@ TEST_P(ProfileListTruncation, CutsToSizeMinusTwoWithDoubleNul) {
 INSTANTIATE_TEST_SUITE_P(
     Sizes, ProfileListTruncation,
     ::testing::Values(ListCase{29, std::string("section1\0section2\0section3\0\0\x0c", 29), 27},
-                      ListCase{28, std::string("section1\0section2\0section3\0\0", 28), 26},
                       ListCase{16, std::string("section1\0secti\0\0", 16), 14},
-                      ListCase{2, std::string("\0\0", 2), 0},
                       ListCase{1, std::string("\0", 1), 0}));
-
-TEST_F(ProfileFileTest, MissingFileListsNothing) {
-    char buffer[4] = {'\x0c', '\x0c', '\x0c', '\x0c'};
-    EXPECT_EQ(GetPrivateProfileStringA(nullptr, nullptr, "d", buffer, 4, file_.c_str()), 0u);
-    EXPECT_EQ(buffer[0], '\0');
-    EXPECT_EQ(buffer[1], '\x0c');
-}
 
 // ---------------------------------------------------------------------------------------------
 // Writing
@@ -321,27 +254,20 @@ INSTANTIATE_TEST_SUITE_P(
                   "v", "[D]\r\nComment= \r\nh1,h2=\r\nk=v\r\n1,2\r\n3,4\r\n"},
         WriteCase{"NewKeyUnderBareHeader", "[A]\r\n; note\r\n[B]\r\n", "A", "k", "v",
                   "[A]\r\nk=v\r\n; note\r\n[B]\r\n"},
-        WriteCase{"NewKeyUnderHeaderWithoutLineEnd", "[A]", "A", "k", "v", "[A]\r\nk=v\r\n"},
         WriteCase{"NewKeyAfterKeyWithoutLineEnd", "[A]\na=1", "A", "b", "2", "[A]\na=1\r\nb=2\r\n"},
         WriteCase{"NewKeyInFirstOfDuplicateSections", "[A]\r\na=1\r\n[A]\r\nb=1\r\n", "A", "b", "2",
                   "[A]\r\na=1\r\nb=2\r\n[A]\r\nb=1\r\n"},
         WriteCase{"NewSectionAtEnd", "[A]\na=1\n", "B", "b", "2", "[A]\na=1\n[B]\r\nb=2\r\n"},
-        WriteCase{"NewSectionAfterLineWithoutEnd", "[A]\r\na=1", "B", "b", "2",
-                  "[A]\r\na=1\r\n[B]\r\nb=2\r\n"},
         WriteCase{"NewSectionInEmptyFile", "", " B ", " b ", "2", "[B]\r\nb=2\r\n"},
-        WriteCase{"NewSectionAfterUtf8MarkedHeader", "\xEF\xBB\xBF[A]\r\na=1", "A", "a", "2",
-                  "\xEF\xBB\xBF[A]\r\na=1\r\n[A]\r\na=2\r\n"},
         WriteCase{"ValueIsVerbatim", "[A]\r\n", "A", "k", " \"v\" ", "[A]\r\nk= \"v\" \r\n"},
         WriteCase{"EmptyValue", "[A]\r\nk=1\r\n", "A", "k", "", "[A]\r\nk=\r\n"},
         WriteCase{"CommentKeyAddsCommentLine", "[A]\r\n;k=1\r\n", "A", ";k", "1",
                   "[A]\r\n;k=1\r\n;k=1\r\n"},
         WriteCase{"DeleteKey", "[A]\r\na=1\nb=2\rc=3\r\n", "A", "B", nullptr,
                   "[A]\r\na=1\nc=3\r\n"},
-        WriteCase{"DeleteMissingKey", "[A]\na=1", "A", "zz", nullptr, "[A]\na=1"},
         WriteCase{"DeleteSectionKeepsComments",
                   "[A]\r\n;c\r\na=1\r\n\r\n120,0\r\nb=2\r\n[B]\r\nb=1\r\n", "a", nullptr, "x",
-                  ";c\r\n\r\n120,0\r\n[B]\r\nb=1\r\n"},
-        WriteCase{"DeleteMissingSection", "[A]\r\n", "B", nullptr, nullptr, "[A]\r\n"}),
+                  ";c\r\n\r\n120,0\r\n[B]\r\nb=1\r\n"}),
     [](const auto& param) { return std::string(param.param.name); });
 
 TEST_F(ProfileFileTest, NewSectionCollectsKeysInWriteOrder) {
@@ -357,21 +283,15 @@ TEST_F(ProfileFileTest, MissingFileIsCreatedWithExactBytes) {
     EXPECT_EQ(get("sec", "KEY"), "value");
 }
 
-TEST_F(ProfileFileTest, WritesThatCannotHappenCreateNothing) {
+TEST_F(ProfileFileTest, WritesThatCannotHappenCreateOrChangeNothing) {
     const std::string nested = (dir_ / "no_such_dir" / "x.ini").string();
     EXPECT_FALSE(WritePrivateProfileStringA("S", "k", "v", nested.c_str()));
     EXPECT_FALSE(WritePrivateProfileStringA(nullptr, "k", "v", file_.c_str()));
-    EXPECT_FALSE(WritePrivateProfileStringA(nullptr, nullptr, nullptr, file_.c_str()));
     EXPECT_FALSE(WritePrivateProfileStringA("S", "k", "v", ""));
     EXPECT_FALSE(WritePrivateProfileStringA("S", "k", "v", nullptr));
     EXPECT_TRUE(WritePrivateProfileStringA("S", "k", nullptr, file_.c_str()));
     EXPECT_TRUE(WritePrivateProfileStringA("S", nullptr, nullptr, file_.c_str()));
-    EXPECT_FALSE(fs::exists(file_));
-    EXPECT_FALSE(fs::exists(dir_ / "no_such_dir"));
     EXPECT_EQ(std::distance(fs::directory_iterator(dir_), fs::directory_iterator()), 0);
-}
-
-TEST_F(ProfileFileTest, NullSectionLeavesAnExistingFileAlone) {
     put("[A]\na=1");
     EXPECT_FALSE(WritePrivateProfileStringA(nullptr, "a", "2", file_.c_str()));
     EXPECT_EQ(bytes(), "[A]\na=1");
@@ -395,75 +315,52 @@ TEST_F(ProfileFileTest, GraphFileShapeWritesAndReadsBack) {
     std::string expected;
     auto write = [&](const std::string& s, const std::string& k, const std::string& v) {
         ASSERT_TRUE(writeProfileString(s, k, v, file_));
+        expected += (expected.find("[" + s + "]") == std::string::npos ? "[" + s + "]\r\n" : "") +
+                    k + "=" + v + "\r\n";
     };
     write("COMMON_HEADER", "DecPoint", ".");
-    expected += "[COMMON_HEADER]\r\nDecPoint=.\r\n";
-    expected += "[COMMON]\r\n";
-    for (const char* k : {"SamplingSpeed", "SamplingMode", "SamplingInterval", "HScrollPos"}) {
+    for (const char* k : {"SamplingSpeed", "SamplingMode", "HScrollPos"})
         write("COMMON", k, std::string(k).substr(0, 3));
-        expected += std::string(k) + "=" + std::string(k).substr(0, 3) + "\r\n";
-    }
-    for (int ch = 1; ch <= 8; ++ch) {
-        const std::string sec = "CHANNEL_0" + std::to_string(ch);
-        expected += "[" + sec + "]\r\n";
-        for (const char* k : {"TargetNo", "Unit", "DecPoint"}) {
-            write(sec, k, std::to_string(ch));
-            expected += std::string(k) + "=" + std::to_string(ch) + "\r\n";
-        }
-    }
+    for (int ch = 1; ch <= 8; ++ch)
+        write("CHANNEL_0" + std::to_string(ch), "Unit", std::to_string(ch));
     for (int g = 1; g <= 5; ++g) {
-        const std::string sec = "DATA_0" + std::to_string(g);
-        write(sec, "Comment", "graph " + std::to_string(g) + " ");
+        write("DATA_0" + std::to_string(g), "Comment", "graph " + std::to_string(g) + " ");
         std::string appended = std::string(kDataHeader) + "=\r\n";
         for (int i = 0; i < kLines; ++i)
             appended += dataLine(g, i);
         std::ofstream(file_, std::ios::binary | std::ios::app) << appended;
-        expected += "[" + sec + "]\r\nComment=graph " + std::to_string(g) + " \r\n" + appended;
+        expected += appended;
     }
     ASSERT_EQ(bytes(), expected);
 
-    EXPECT_EQ(get("COMMON_HEADER", "DecPoint"), ".");
     EXPECT_EQ(get("COMMON", "HscrollPos"), "HSc");
-    EXPECT_EQ(get("CHANNEL_08", "DecPoint"), "8");
+    EXPECT_EQ(get("CHANNEL_08", "Unit"), "8");
     for (int g = 1; g <= 5; ++g) {
-        const std::string sec = "DATA_0" + std::to_string(g);
-        EXPECT_EQ(getProfileString(sec, "Comment", "GetPrivateProfileReadError", file_, 12800),
+        EXPECT_EQ(getProfileString("DATA_0" + std::to_string(g), "Comment",
+                                   "GetPrivateProfileReadError", file_, 12800),
                   "graph " + std::to_string(g));
     }
-    uint32_t returned = 7;
-    EXPECT_EQ(get("DATA_03", kDataHeader, "dflt", &returned), "");
-    EXPECT_EQ(returned, 0u);
+    EXPECT_EQ(get("DATA_03", kDataHeader), "");
     EXPECT_EQ(get("DATA_05", "121,0,0,-312,0,0,0"), "dflt");
-    EXPECT_EQ(getProfileString("DATA_02", "", "", file_).size(), 0u);
     EXPECT_EQ(get("DATA_04", nullptr),
               "Comment" + std::string(1, '\0') + kDataHeader + std::string(1, '\0'));
 
     // A keyed write after the tables changes only its own line.
-    write("COMMON", "SamplingMode", "1");
+    ASSERT_TRUE(writeProfileString("COMMON", "SamplingMode", "1", file_));
     const std::string before = "SamplingMode=Sam\r\n";
     expected.replace(expected.find(before), before.size(), "SamplingMode=1\r\n");
     EXPECT_EQ(bytes(), expected);
-    EXPECT_EQ(get("DATA_05", "Comment"), "graph 5");
 }
 
 TEST_F(ProfileFileTest, OldSingleDataLayoutReads) {
-    std::string text =
-        "[COMMON_HEADER]\r\nDecPoint= , \r\n[COMMON]\r\nSamplingSpeed=1\r\n[DATA]\r\n";
+    std::string text = "[COMMON_HEADER]\r\nDecPoint= , \r\n[DATA]\r\n";
     text += std::string(kDataHeader) + "=\r\n";
     for (int i = 0; i < 100; ++i)
         text += dataLine(1, i);
     put(text);
     EXPECT_EQ(get("COMMON_HEADER", "DecPoint"), ",");
-    EXPECT_EQ(get("COMMON", "SamplingSpeed"), "1");
     EXPECT_EQ(get("DATA", kDataHeader), "");
     EXPECT_EQ(get("DATA_01", "Comment"), "dflt");
-    EXPECT_TRUE(writeProfileString("COMMON", "SamplingMode", "0", file_));
-    EXPECT_EQ(
-        bytes().substr(0, 80),
-        ("[COMMON_HEADER]\r\nDecPoint= , \r\n[COMMON]\r\nSamplingSpeed=1\r\nSamplingMode=0\r\n"
-         "[DATA]\r\n" +
-         std::string(kDataHeader))
-            .substr(0, 80));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,16 @@
 namespace zt::ui {
 namespace {
 
+// "code text" of the error a call raises, or "" when it raises none.
+std::string errorOf(const std::function<void()>& call) {
+    try {
+        call();
+    } catch (const AutomationError& e) {
+        return std::to_string(e.code()) + " " + e.what();
+    }
+    return "";
+}
+
 struct TabLog {
     TabStrip strip{"tbsGraphOp"};
     std::vector<int> clicks;
@@ -26,48 +37,28 @@ struct TabLog {
     }
 };
 
-TEST(TabStripTest, FirstTabIsSelectedWithoutClick) {
+TEST(TabStripTest, CodeClicksOnChangeOnlyPersonClicksEveryTime) {
     TabLog t;
-    EXPECT_EQ(t.strip.SelectedIndex(), 1);
-    EXPECT_EQ(t.strip.Tabs.Count(), 3);
-    EXPECT_EQ(t.strip.Tabs(2).Caption, "Cursor");
-    EXPECT_TRUE(t.clicks.empty());
-}
-
-TEST(TabStripTest, SelectInCodeClicksOnChangeOnly) {
-    TabLog t;
+    EXPECT_EQ(t.strip.SelectedIndex(), 1);  // the first tab, without a click
     t.strip.select(2);
     t.strip.select(2);
-    EXPECT_EQ(t.clicks, (std::vector<int>{2}));
-}
-
-TEST(TabStripTest, PersonClicksEveryTimeEvenOnTheSelectedTab) {
-    TabLog t;
     EXPECT_TRUE(t.strip.click(2));
-    EXPECT_TRUE(t.strip.click(2));
+    EXPECT_TRUE(t.strip.click(3));
     EXPECT_FALSE(t.strip.click(4));
     EXPECT_FALSE(t.strip.click(0));
-    EXPECT_EQ(t.clicks, (std::vector<int>{2, 2}));
+    EXPECT_EQ(t.clicks, (std::vector<int>{2, 2, 3}));
 }
 
 TEST(TabStripTest, BadTabIndexIsIndexOutOfBounds) {
     TabLog t;
-    for (int bad : {0, 4, -1}) {
-        try {
-            t.strip.select(bad);
-            ADD_FAILURE() << bad;
-        } catch (const AutomationError& e) {
-            EXPECT_EQ(e.code(), kErrIndexOutOfBounds);
-            EXPECT_STREQ(e.what(), "Index out of bounds");
-        }
-    }
+    for (int bad : {0, 4, -1})
+        EXPECT_EQ(errorOf([&] { t.strip.select(bad); }), "35600 Index out of bounds") << bad;
     EXPECT_THROW(t.strip.Tabs(4), AutomationError);
     EXPECT_THROW(t.strip.Tabs.Remove(0), AutomationError);
-    EXPECT_THROW(t.strip.Tabs.Add("x", 5), AutomationError);
     EXPECT_EQ(t.strip.SelectedIndex(), 1);
 }
 
-TEST(TabStripTest, SelectionFollowsInsertAndRemove) {
+TEST(TabStripTest, SelectionFollowsInsertAndRemoveWithoutClick) {
     TabLog t;
     t.strip.select(2);
     t.clicks.clear();
@@ -80,31 +71,11 @@ TEST(TabStripTest, SelectionFollowsInsertAndRemove) {
     EXPECT_TRUE(t.clicks.empty());
 }
 
-TEST(TabStripTest, MouseMovePassesButtonShiftAndTwips) {
-    TabStrip strip("tabSpread");
-    std::vector<float> seen;
-    strip.MouseMove.connect([&](int16_t b, int16_t s, float x, float y) {
-        seen = {float(b), float(s), x, y};
-    });
-    EXPECT_TRUE(strip.moveMouse(1, 2, 150.0f, 45.0f));
-    EXPECT_EQ(seen, (std::vector<float>{1, 2, 150, 45}));
-}
-
 TEST(ControlArrayTest, MissingElementIsRefusedWithItsIndex) {
     ControlArray<CheckBox> boxes("chkOverWrite", 5);
-    EXPECT_EQ(boxes.size(), 5);
     EXPECT_EQ(boxes[4].Index(), 4);
-    EXPECT_EQ(boxes[4].Name(), "chkOverWrite");
-    for (int bad : {-1, 5, 1 << 30}) {
-        try {
-            boxes[bad];
-            ADD_FAILURE() << bad;
-        } catch (const AutomationError& e) {
-            EXPECT_EQ(e.code(), kErrNoArrayElement);
-            EXPECT_EQ(std::string(e.what()),
-                      "Control array element '" + std::to_string(bad) + "' doesn't exist");
-        }
-    }
+    EXPECT_EQ(errorOf([&] { boxes[5]; }), "340 Control array element '5' doesn't exist");
+    EXPECT_EQ(errorOf([&] { boxes[-1]; }), "340 Control array element '-1' doesn't exist");
 }
 
 TEST(ControlArrayTest, LoadAddsElementsInIndexOrderAndRefusesDuplicates) {
@@ -116,19 +87,7 @@ TEST(ControlArrayTest, LoadAddsElementsInIndexOrderAndRefusesDuplicates) {
     for (Label& l : labels)
         order.push_back(l.Index());
     EXPECT_EQ(order, (std::vector<int>{0, 2}));
-    EXPECT_EQ(labels.LBound(), 0);
-    EXPECT_EQ(labels.UBound(), 2);
     EXPECT_FALSE(labels.contains(1));
-}
-
-TEST(ControlArrayTest, HandlersGetTheElementIndexByCapture) {
-    ControlArray<CommandButton> buttons("cmdVert", 2);
-    std::vector<int> clicked;
-    for (CommandButton& b : buttons)
-        b.Click.connect([&, i = b.Index()] { clicked.push_back(i); });
-    buttons[1].click();
-    buttons[0].click();
-    EXPECT_EQ(clicked, (std::vector<int>{1, 0}));
 }
 
 struct SurfaceFixture : ::testing::Test {
@@ -158,37 +117,15 @@ TEST_F(SurfaceFixture, FindsControlsByNameWithoutCaseAndByIndex) {
     EXPECT_EQ(surface.find("cmdStart", 0), nullptr);
     EXPECT_EQ(surface.find(""), nullptr);
     EXPECT_EQ(&surface.get<ComboBox>("cboVertScale"), &cboVertScale);
-}
-
-TEST_F(SurfaceFixture, DrivesTheControlsAsAPersonWould) {
-    int clicks = 0;
-    optScale[0].Click.connect([&] { ++clicks; });
-    EXPECT_TRUE(surface.get<OptionButton>("optScale", 0).click());
-    EXPECT_EQ(clicks, 1);
-    EXPECT_EQ(optScale.group().selectedIndex(), 0);
+    CommandButton twin("CmdStart");
+    EXPECT_THROW(surface.add(twin), AutomationError);  // same name and index twice
 }
 
 TEST_F(SurfaceFixture, MissingControlAndWrongKindAreClearErrors) {
-    try {
-        surface.get<CommandButton>("cmdStop");
-        ADD_FAILURE();
-    } catch (const AutomationError& e) {
-        EXPECT_EQ(e.code(), kErrObjectRequired);
-        EXPECT_STREQ(e.what(), "Object required: no control cmdStop");
-    }
-    try {
-        surface.get<CheckBox>("optScale", 1);
-        ADD_FAILURE();
-    } catch (const AutomationError& e) {
-        EXPECT_EQ(e.code(), kErrTypeMismatch);
-        EXPECT_STREQ(e.what(), "Type mismatch: optScale(1) is a OptionButton, not a CheckBox");
-    }
-}
-
-TEST_F(SurfaceFixture, AddingTheSameNameAndIndexTwiceIsRefused) {
-    CommandButton twin("CmdStart");
-    EXPECT_THROW(surface.add(twin), AutomationError);
-    EXPECT_EQ(surface.controls().size(), 5u);
+    EXPECT_EQ(errorOf([&] { surface.get<CommandButton>("cmdStop"); }),
+              "424 Object required: no control cmdStop");
+    EXPECT_EQ(errorOf([&] { surface.get<CheckBox>("optScale", 1); }),
+              "13 Type mismatch: optScale(1) is a OptionButton, not a CheckBox");
 }
 
 TEST_F(SurfaceFixture, ListsControlsInTabOrderKeepingTheOrderOfAddingForTies) {
@@ -199,12 +136,6 @@ TEST_F(SurfaceFixture, ListsControlsInTabOrderKeepingTheOrderOfAddingForTies) {
     EXPECT_EQ(names, (std::vector<std::string>{
                          "cmdStart:CommandButton", "lblUnit:Label", "optScale(0):OptionButton",
                          "optScale(1):OptionButton", "cboVertScale:ComboBox"}));
-}
-
-TEST_F(SurfaceFixture, MousePointerStartsAtTheDefaultShape) {
-    EXPECT_EQ(surface.mousePointer, MousePointer::Default);
-    surface.mousePointer = MousePointer::Hourglass;
-    EXPECT_EQ(static_cast<int>(surface.mousePointer), 11);
 }
 
 }  // namespace
