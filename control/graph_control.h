@@ -138,6 +138,7 @@ class ztGraphControl {
     SettingSheets sheets_;
     chart::ChartRoot CBGraph1;
     ChartRefs chart_;
+    PlotInputs sweepInputs_;  // plot inputs of the sweep being sampled
     float width_ = kMinControlSize;
     float height_ = kMinControlSize;
     bool terminated_ = false;

@@ -43,8 +43,11 @@ void ztGraphControl::linkSubsystems() {
     };
     run.plotInputs = [this] { return plotInputs(); };
     run.prepareDisplayForRun = [this] { prepareDisplayForRun(); };
+    // The settings are locked while sampling and the request is complete before the first
+    // reply, so a sweep's plot inputs are read once, at its first records.
     run.drawNewRecords = [this](int first, int last) {
-        drawNewRecords(chart_, state_, plotInputs(), first, last);
+        if (first == 0) sweepInputs_ = plotInputs();
+        drawNewRecords(chart_, state_, sweepInputs_, first, last);
     };
     run.showStatusLabel = [this](const std::string& text) {
         chart_.triggerStateLabel->Text = text;
