@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "config/channel_rules.h"
+#include "config/sheet_rows.h"
 
 namespace zt::cli {
 
@@ -13,10 +13,6 @@ struct ChannelChoice {
     int channel;
     const char* item;
 };
-
-// Rows of the trigger and sampling sheets, as a person reads them top to bottom.
-enum TriggerRow { kTrigType = 1, kTrigTarget, kTrigStartAt, kTrigLevel, kTrigPosition };
-enum SamplingRow { kSampMode = 1, kSampSpeed, kSampInterval, kSampTime };
 
 constexpr std::array<ChannelChoice, 5> kMonitorChannels{{{1, "*Output frequency"},
                                                          {2, "*Output current"},
@@ -87,7 +83,7 @@ void configureCapture(ztGraphControl& control, CaptureScenario scenario) {
     s.tabSpread.select(2);
     ui::SpreadSheet& samp = s.sprSampling;
     const bool highSpeed = scenario == CaptureScenario::HighSpeed;
-    if (highSpeed) samp.chooseListItem(1, kSampSpeed, "High Speed");
+    if (highSpeed) samp.chooseListItem(1, kSamplingRowSpeed, "High Speed");
     samp.leaveSheet();
     s.tabSpread.select(1);
 
@@ -103,26 +99,28 @@ void configureCapture(ztGraphControl& control, CaptureScenario scenario) {
     switch (scenario) {
         case CaptureScenario::Typical:
         case CaptureScenario::HighSpeed:
-            trig.chooseListItem(1, kTrigType, "Inside");
-            trig.chooseListItem(1, kTrigTarget, "CH01");
-            trig.chooseListItem(1, kTrigStartAt, "Rise");
-            typeAndEnter(trig, kTrigLevel, "30");
-            typeAndEnter(trig, kTrigPosition, "20");
+            trig.chooseListItem(1, kTriggerRowType, "Inside");
+            trig.chooseListItem(1, kTriggerRowTarget, "CH01");
+            trig.chooseListItem(1, kTriggerRowBoot, "Rise");
+            typeAndEnter(trig, kTriggerRowLevel, "30");
+            typeAndEnter(trig, kTriggerRowPosition, "20");
             break;
         case CaptureScenario::Fault:
-            trig.chooseListItem(1, kTrigType, "Fault");
-            trig.chooseListItem(1, kTrigTarget, station);
-            typeAndEnter(trig, kTrigPosition, "50");
+            trig.chooseListItem(1, kTriggerRowType, "Fault");
+            trig.chooseListItem(1, kTriggerRowTarget, station);
+            typeAndEnter(trig, kTriggerRowPosition, "50");
             break;
         case CaptureScenario::Continuous:
             break;
     }
     trig.leaveSheet();
 
-    if (scenario == CaptureScenario::Continuous) samp.chooseListItem(1, kSampMode, "Continuous");
+    if (scenario == CaptureScenario::Continuous)
+        samp.chooseListItem(1, kSamplingRowMode, "Continuous");
     const CaptureTiming timing = scenarioTiming(scenario);
-    typeAndEnter(samp, kSampInterval, std::to_string(static_cast<long long>(timing.interval)));
-    typeAndEnter(samp, kSampTime, std::to_string(static_cast<long long>(timing.timeMs)));
+    typeAndEnter(samp, kSamplingRowInterval,
+                 std::to_string(static_cast<long long>(timing.interval)));
+    typeAndEnter(samp, kSamplingRowTime, std::to_string(static_cast<long long>(timing.timeMs)));
     samp.leaveSheet();
     s.tabSpread.select(1);
 }

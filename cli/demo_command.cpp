@@ -10,9 +10,11 @@
 
 #include <unistd.h>
 
+#include "cli/arguments.h"
 #include "cli/capture_setup.h"
 #include "cli/commands.h"
-#include "config/channel_rules.h"
+#include "config/setting_limits.h"
+#include "config/sheet_rows.h"
 #include "control/graph_control_interface.h"
 #include "render/render_chart.h"
 #include "run/run_states.h"
@@ -42,17 +44,6 @@ struct DemoOptions {
     render::RenderOptions picture{1020, 480};
 };
 
-std::optional<int> positiveArg(const std::string& text, int limit) {
-    try {
-        size_t used = 0;
-        const int v = std::stoi(text, &used);
-        if (used != text.size() || v < 1 || v > limit) return std::nullopt;
-        return v;
-    } catch (const std::exception&) {
-        return std::nullopt;
-    }
-}
-
 // Parses the options; an error text when they are not understood.
 std::optional<std::string> parseOptions(const Args& args, DemoOptions& o) {
     for (size_t i = 0; i < args.size(); ++i) {
@@ -66,11 +57,11 @@ std::optional<std::string> parseOptions(const Args& args, DemoOptions& o) {
         } else if (a == "--out") {
             o.out = v;
         } else if (a == "--sweeps") {
-            const auto n = positiveArg(v, 100);
+            const auto n = wholeNumberArg(v, 1, 100);
             if (!n) return "--sweeps takes a number from 1 to 100";
             o.sweeps = *n;
         } else if (a == "--width" || a == "--height") {
-            const auto n = positiveArg(v, 20000);
+            const auto n = wholeNumberArg(v, 1, 20000);
             if (!n) return a + " takes a size from 1 to 20000";
             (a == "--width" ? o.picture.width : o.picture.height) = *n;
         } else {
@@ -154,13 +145,19 @@ void printSetup(ztGraphControl& control, std::ostream& out) {
     }
     const ui::SpreadSheet& trig = control.surface().sprTrigger;
     const ui::SpreadSheet& samp = control.surface().sprSampling;
-    out << "Trigger:  " << trig.text(1, 1);
-    if (s.sampSetting.intTriggerType != 0) {
-        out << " " << trig.text(1, 2) << ", " << trig.text(1, 3) << ", level " << trig.text(1, 4)
-            << ", position " << trig.text(1, 5) << " %";
+    const auto value = [](const ui::SpreadSheet& sheet, int row) { return sheet.text(1, row); };
+    out << "Trigger:  " << value(trig, kTriggerRowType);
+    if (s.sampSetting.intTriggerType == 1) {
+        out << " " << value(trig, kTriggerRowTarget) << ", " << value(trig, kTriggerRowBoot)
+            << ", level " << value(trig, kTriggerRowLevel) << ", position "
+            << value(trig, kTriggerRowPosition) << " %";
+    } else if (s.sampSetting.intTriggerType == 2) {
+        out << " of station " << value(trig, kTriggerRowTarget) << ", position "
+            << value(trig, kTriggerRowPosition) << " %";
     }
-    out << "\nSampling: " << samp.text(1, 1) << ", " << samp.text(1, 2) << ", " << samp.text(0, 3)
-        << " " << samp.text(1, 3) << ", " << samp.text(0, 4) << " " << samp.text(1, 4) << "\n";
+    out << "\nSampling: " << value(samp, kSamplingRowMode) << ", " << value(samp, kSamplingRowSpeed)
+        << ", " << samp.text(0, kSamplingRowInterval) << " " << value(samp, kSamplingRowInterval)
+        << ", " << samp.text(0, kSamplingRowTime) << " " << value(samp, kSamplingRowTime) << "\n";
 }
 
 void printResult(ztGraphControl& control, sim::SimCommonLibrary& library, std::ostream& out) {
@@ -236,11 +233,8 @@ int runDemo(const Args& args, std::ostream& out, std::ostream& err) {
     }
 
     const GraphState& s = control.state();
-    const double interval = scenarioTiming(o.scenario).interval;
-    const double perSample = s.sampSetting.intSamplingSpeed == 1
-                                 ? (interval + 1) * 0.5
-                                 : s.sampSetting.dblSamplingInterval;
-    const double expected = std::max(1.0, s.sampSetting.dblSamplingTime / perSample);
+    const double expected =
+        std::max(1.0, s.sampSetting.dblSamplingTime / effectiveInterval(s.sampSetting));
     Progress progress(out, &out == &std::cout && isatty(STDOUT_FILENO) == 1);
     int replies = 0;
     int sweepsDone = 0;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "cli/arguments.h"
 #include "cli/commands.h"
 #include "control/graph_state.h"
 #include "graph/chart_refs.h"
@@ -70,17 +71,6 @@ std::optional<render::Format> formatOf(const std::string& path) {
     return std::nullopt;
 }
 
-std::optional<int> sizeArg(const std::string& text) {
-    try {
-        size_t used = 0;
-        const int v = std::stoi(text, &used);
-        if (used != text.size() || v < 1 || v > 20000) return std::nullopt;
-        return v;
-    } catch (const std::exception&) {
-        return std::nullopt;
-    }
-}
-
 // The index of the first record whose digital word has `bit` set after having it clear.
 int32_t firstRise(const std::vector<SampleRecord>& records, int bit) {
     for (size_t i = 1; i < records.size(); ++i) {
@@ -111,7 +101,7 @@ int runRender(const Args& args, std::ostream& out, std::ostream& err) {
         if (a == "--out") {
             path = v;
         } else if (a == "--width" || a == "--height") {
-            const auto n = sizeArg(v);
+            const auto n = wholeNumberArg(v, 1, 20000);
             if (!n) {
                 err << "ztgraph render: " << a << " takes a size from 1 to 20000\n";
                 return 2;

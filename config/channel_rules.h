@@ -6,16 +6,10 @@
 #include <string>
 
 #include "config/settings_model.h"
+#include "config/sheet_rows.h"
 #include "platform/ui/spread_sheet.h"
 
 namespace zt {
-
-// Rows of the channel sheet.
-inline constexpr int kRowColor = 1;
-inline constexpr int kRowStation = 2;
-inline constexpr int kRowName = 3;
-inline constexpr int kFirstReadoutRow = 4;
-inline constexpr int kLastReadoutRow = 8;
 
 // The channel's St.No. and Name cells both have a selection other than "None" (`noneText`).
 bool channelIsSet(const ui::SpreadSheet& sprChannel, int channel, const std::string& noneText);

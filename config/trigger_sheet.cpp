@@ -7,6 +7,7 @@
 #include "config/channel_rules.h"
 #include "config/setting_limits.h"
 #include "config/setting_sheets.h"
+#include "config/sheet_rows.h"
 #include "platform/text/number_text.h"
 #include "platform/text/numeric.h"
 
@@ -14,11 +15,6 @@ namespace zt {
 
 namespace {
 
-constexpr int kRowType = 1;
-constexpr int kRowTarget = 2;
-constexpr int kRowBoot = 3;
-constexpr int kRowLevel = 4;
-constexpr int kRowPosition = 5;
 constexpr float kLabelWidth = 980;
 constexpr float kValueWidth = 1600;
 constexpr int kLevelDecimals = 2;
@@ -32,22 +28,22 @@ std::string positionText(float position) {
 void SettingSheets::buildTriggerSheet() {
     ui::SpreadSheet& s = sprTrigger_;
     s.SetMaxCols(1);
-    s.SetMaxRows(kRowPosition);
+    s.SetMaxRows(kTriggerRowPosition);
     s.SetColWidth(0, kLabelWidth);
     s.SetColWidth(1, kValueWidth);
     s.setText(1, 0, host_.text(msg::kTrigger));
-    s.setText(0, kRowType, host_.text(msg::kTriggerType));
-    s.setText(0, kRowTarget, host_.text(msg::kChannelTab));
-    s.setText(0, kRowBoot, host_.text(msg::kStartAt));
-    s.setText(0, kRowLevel, host_.text(msg::kLevel));
-    s.setText(0, kRowPosition, host_.text(msg::kPosition));
-    for (int r : {kRowType, kRowTarget, kRowBoot})
+    s.setText(0, kTriggerRowType, host_.text(msg::kTriggerType));
+    s.setText(0, kTriggerRowTarget, host_.text(msg::kChannelTab));
+    s.setText(0, kTriggerRowBoot, host_.text(msg::kStartAt));
+    s.setText(0, kTriggerRowLevel, host_.text(msg::kLevel));
+    s.setText(0, kTriggerRowPosition, host_.text(msg::kPosition));
+    for (int r : {kTriggerRowType, kTriggerRowTarget, kTriggerRowBoot})
         s.setCellType(1, r, ui::CellType::ComboBox);
-    s.setListItems(1, kRowType,
+    s.setListItems(1, kTriggerRowType,
                    {host_.text(msg::kNotUsed), host_.text(msg::kInside), host_.text(msg::kFault)});
-    s.setCellType(1, kRowLevel, ui::CellType::Number);
-    s.setNumberFormat(1, kRowLevel, ui::NumberFormat{.decimals = kLevelDecimals});
-    s.setCellType(1, kRowPosition, ui::CellType::Edit);
+    s.setCellType(1, kTriggerRowLevel, ui::CellType::Number);
+    s.setNumberFormat(1, kTriggerRowLevel, ui::NumberFormat{.decimals = kLevelDecimals});
+    s.setCellType(1, kTriggerRowPosition, ui::CellType::Edit);
     showTriggerSettings();
 
     s.ComboSelChange.connect([this](int col, int row) { onTriggerListChanged(col, row); });
@@ -56,8 +52,8 @@ void SettingSheets::buildTriggerSheet() {
     });
     s.KeyPress.connect([this](int& key) {
         if (key != ui::kKeyEnter || !editable()) return;
-        if (sprTrigger_.ActiveRow() == kRowLevel) reevaluateLevel();
-        if (sprTrigger_.ActiveRow() == kRowPosition) takePosition();
+        if (sprTrigger_.ActiveRow() == kTriggerRowLevel) reevaluateLevel();
+        if (sprTrigger_.ActiveRow() == kTriggerRowPosition) takePosition();
     });
     s.Leave.connect([this] {
         if (!editable()) return;
@@ -65,7 +61,8 @@ void SettingSheets::buildTriggerSheet() {
         takePosition();
     });
     s.Click.connect([this](int col, int row) {
-        if (!editable() || col != 1 || (row != kRowLevel && row != kRowPosition)) return;
+        if (!editable() || col != 1 || (row != kTriggerRowLevel && row != kTriggerRowPosition))
+            return;
         sprTrigger_.SetActiveCell(col, row);
         sprTrigger_.SetEditMode(true);
     });
@@ -81,21 +78,22 @@ void SettingSheets::showTriggerSettings() {
         return;
     }
     ui::SpreadSheet& s = sprTrigger_;
-    s.setSelectedIndex(1, kRowType, type);
-    s.setText(0, kRowTarget,
+    s.setSelectedIndex(1, kTriggerRowType, type);
+    s.setText(0, kTriggerRowTarget,
               host_.text(type == kTriggerFault ? msg::kStationNo : msg::kChannelTab));
-    s.setListItems(1, kRowTarget, triggerTargets());
-    s.setText(1, kRowTarget, triggerTargetText(type, set.intTriggerTarget, noValue()));
+    s.setListItems(1, kTriggerRowTarget, triggerTargets());
+    s.setText(1, kTriggerRowTarget, triggerTargetText(type, set.intTriggerTarget, noValue()));
     if (type == kTriggerInside) {
-        s.setListItems(1, kRowBoot, {host_.text(msg::kRise), host_.text(msg::kFall)});
+        s.setListItems(1, kTriggerRowBoot, {host_.text(msg::kRise), host_.text(msg::kFall)});
     } else {
-        s.setListItems(1, kRowBoot, {host_.text(msg::kRise)});
+        s.setListItems(1, kTriggerRowBoot, {host_.text(msg::kRise)});
     }
     const int boot = set.intTriggerBoot;
-    const bool bootShown = boot >= 0 && static_cast<size_t>(boot) < s.listItems(1, kRowBoot).size();
-    s.setSelectedIndex(1, kRowBoot, bootShown ? boot : -1);
-    s.setNumber(1, kRowLevel, set.dblTriggerLevel);
-    s.setText(1, kRowPosition, positionText(set.sngTriggerPosition));
+    const bool bootShown =
+        boot >= 0 && static_cast<size_t>(boot) < s.listItems(1, kTriggerRowBoot).size();
+    s.setSelectedIndex(1, kTriggerRowBoot, bootShown ? boot : -1);
+    s.setNumber(1, kTriggerRowLevel, set.dblTriggerLevel);
+    s.setText(1, kTriggerRowPosition, positionText(set.sngTriggerPosition));
     applyTriggerLocks();
 }
 
@@ -104,48 +102,48 @@ void SettingSheets::applyTriggerType(int16_t type, bool keepTriggerPoint) {
     SAMPSETTING& set = state_.sampSetting;
     const std::string dash = noValue();
     set.intTriggerType = type;
-    s.setSelectedIndex(1, kRowType, type);
-    s.setText(0, kRowLevel, host_.text(msg::kLevel));
+    s.setSelectedIndex(1, kTriggerRowType, type);
+    s.setText(0, kTriggerRowLevel, host_.text(msg::kLevel));
     switch (type) {
         case kTriggerNotUsed:
-            s.setText(0, kRowTarget, host_.text(msg::kChannelTab));
-            s.setListItems(1, kRowTarget, {dash});
-            s.setText(1, kRowTarget, dash);
+            s.setText(0, kTriggerRowTarget, host_.text(msg::kChannelTab));
+            s.setListItems(1, kTriggerRowTarget, {dash});
+            s.setText(1, kTriggerRowTarget, dash);
             set.intTriggerTarget = kNoTriggerTarget;
-            s.setListItems(1, kRowBoot, {dash});
-            s.setText(1, kRowBoot, dash);
+            s.setListItems(1, kTriggerRowBoot, {dash});
+            s.setText(1, kTriggerRowBoot, dash);
             set.intTriggerBoot = kNoTriggerBoot;
-            s.setText(1, kRowLevel, dash);
+            s.setText(1, kTriggerRowLevel, dash);
             set.dblTriggerLevel = 0;
-            s.setText(1, kRowPosition, dash);
+            s.setText(1, kTriggerRowPosition, dash);
             set.sngTriggerPosition = 10;
             if (!keepTriggerPoint) set.lngTriggerPoint = -1;
             break;
         case kTriggerInside:
-            s.setText(0, kRowTarget, host_.text(msg::kChannelTab));
-            s.setListItems(1, kRowTarget, triggerTargets());
-            s.setText(1, kRowTarget, dash);
+            s.setText(0, kTriggerRowTarget, host_.text(msg::kChannelTab));
+            s.setListItems(1, kTriggerRowTarget, triggerTargets());
+            s.setText(1, kTriggerRowTarget, dash);
             set.intTriggerTarget = kNoTriggerTarget;
-            s.setListItems(1, kRowBoot, {host_.text(msg::kRise), host_.text(msg::kFall)});
-            s.setSelectedIndex(1, kRowBoot, 0);
+            s.setListItems(1, kTriggerRowBoot, {host_.text(msg::kRise), host_.text(msg::kFall)});
+            s.setSelectedIndex(1, kTriggerRowBoot, 0);
             set.intTriggerBoot = 0;
-            s.setNumber(1, kRowLevel, 0);
+            s.setNumber(1, kTriggerRowLevel, 0);
             set.dblTriggerLevel = 0;
-            s.setText(1, kRowPosition, "10");
+            s.setText(1, kTriggerRowPosition, "10");
             set.sngTriggerPosition = 10;
             if (!keepTriggerPoint) set.lngTriggerPoint = 0;
             break;
         default:
-            s.setText(0, kRowTarget, host_.text(msg::kStationNo));
-            s.setListItems(1, kRowTarget, triggerTargets());
-            s.setText(1, kRowTarget, dash);
+            s.setText(0, kTriggerRowTarget, host_.text(msg::kStationNo));
+            s.setListItems(1, kTriggerRowTarget, triggerTargets());
+            s.setText(1, kTriggerRowTarget, dash);
             set.intTriggerTarget = kNoTriggerTarget;
-            s.setListItems(1, kRowBoot, {host_.text(msg::kRise)});
-            s.setSelectedIndex(1, kRowBoot, 0);
+            s.setListItems(1, kTriggerRowBoot, {host_.text(msg::kRise)});
+            s.setSelectedIndex(1, kTriggerRowBoot, 0);
             set.intTriggerBoot = 0;
-            s.setNumber(1, kRowLevel, 0);
+            s.setNumber(1, kTriggerRowLevel, 0);
             set.dblTriggerLevel = 0;
-            s.setText(1, kRowPosition, "10");
+            s.setText(1, kTriggerRowPosition, "10");
             set.sngTriggerPosition = 10;
             if (!keepTriggerPoint) set.lngTriggerPoint = 0;
             break;
@@ -156,24 +154,24 @@ void SettingSheets::applyTriggerType(int16_t type, bool keepTriggerPoint) {
 void SettingSheets::applyTriggerLocks() {
     ui::SpreadSheet& s = sprTrigger_;
     const SAMPSETTING& set = state_.sampSetting;
-    s.setLocked(1, kRowType, false);
+    s.setLocked(1, kTriggerRowType, false);
     switch (set.intTriggerType) {
         case kTriggerInside: {
-            s.lockRange(1, kRowTarget, 1, kRowPosition, false);
-            s.setLocked(1, kRowTarget, s.listItems(1, kRowTarget).size() <= 1);
+            s.lockRange(1, kTriggerRowTarget, 1, kTriggerRowPosition, false);
+            s.setLocked(1, kTriggerRowTarget, s.listItems(1, kTriggerRowTarget).size() <= 1);
             const int target = set.intTriggerTarget;
             const bool levelApplies = target >= 1 && target <= kChannelCount &&
                                       channelIsSet(target) &&
                                       state_.chSetting[static_cast<size_t>(target)].intAD == 0;
-            s.setLocked(1, kRowLevel, !levelApplies);
+            s.setLocked(1, kTriggerRowLevel, !levelApplies);
             break;
         }
         case kTriggerFault:
-            s.lockRange(1, kRowTarget, 1, kRowPosition, false);
-            s.setLocked(1, kRowLevel, true);
+            s.lockRange(1, kTriggerRowTarget, 1, kTriggerRowPosition, false);
+            s.setLocked(1, kTriggerRowLevel, true);
             break;
         default:
-            s.lockRange(1, kRowTarget, 1, kRowPosition, true);
+            s.lockRange(1, kTriggerRowTarget, 1, kTriggerRowPosition, true);
             break;
     }
 }
@@ -207,22 +205,23 @@ void SettingSheets::refreshTriggerTargets() {
         triggerTargetText(set.intTriggerType, set.intTriggerTarget, noValue());
     const bool kept = set.intTriggerTarget != kNoTriggerTarget &&
                       std::find(targets.begin(), targets.end(), current) != targets.end();
-    s.setListItems(1, kRowTarget, targets);
-    s.setText(1, kRowTarget, kept ? current : noValue());
+    s.setListItems(1, kTriggerRowTarget, targets);
+    s.setText(1, kTriggerRowTarget, kept ? current : noValue());
     if (!kept) set.intTriggerTarget = kNoTriggerTarget;
-    if (set.intTriggerType == kTriggerInside) s.setLocked(1, kRowTarget, targets.size() <= 1);
+    if (set.intTriggerType == kTriggerInside)
+        s.setLocked(1, kTriggerRowTarget, targets.size() <= 1);
 }
 
 bool SettingSheets::triggerCellDiffers(int row) const {
     const SAMPSETTING& set = state_.sampSetting;
     const int index = sprTrigger_.selectedIndex(1, row);
     switch (row) {
-        case kRowType:
+        case kTriggerRowType:
             return index >= 0 && index != set.intTriggerType;
-        case kRowTarget:
+        case kTriggerRowTarget:
             return triggerTargetFromText(sprTrigger_.text(1, row), noValue()) !=
                    set.intTriggerTarget;
-        case kRowBoot:
+        case kTriggerRowBoot:
             return (index < 0 ? kNoTriggerBoot : index) != set.intTriggerBoot;
         default:
             return false;
@@ -230,7 +229,7 @@ bool SettingSheets::triggerCellDiffers(int row) const {
 }
 
 void SettingSheets::onTriggerListChanged(int col, int row) {
-    if (!editable() || col != 1 || row < kRowType || row > kRowBoot) return;
+    if (!editable() || col != 1 || row < kTriggerRowType || row > kTriggerRowBoot) return;
     if (!triggerCellDiffers(row)) return;
     takeTriggerRow(row);
     reevaluateLevel();
@@ -240,27 +239,28 @@ void SettingSheets::takeTriggerRow(int row) {
     SAMPSETTING& set = state_.sampSetting;
     ui::SpreadSheet& s = sprTrigger_;
     switch (row) {
-        case kRowType: {
-            const int index = s.selectedIndex(1, kRowType);
+        case kTriggerRowType: {
+            const int index = s.selectedIndex(1, kTriggerRowType);
             if (index >= 0) applyTriggerType(static_cast<int16_t>(index), false);
             break;
         }
-        case kRowTarget:
-            set.intTriggerTarget = triggerTargetFromText(s.text(1, kRowTarget), noValue());
+        case kTriggerRowTarget:
+            set.intTriggerTarget = triggerTargetFromText(s.text(1, kTriggerRowTarget), noValue());
             if (set.intTriggerType == kTriggerFault && set.intTriggerTarget != kNoTriggerTarget) {
                 retakeSampling();
             }
             if (set.intTriggerType == kTriggerInside) {
-                if (s.text(1, kRowLevel) != noValue()) {
-                    if (const auto level = text::parseNumber(s.text(1, kRowLevel), locale_)) {
+                if (s.text(1, kTriggerRowLevel) != noValue()) {
+                    if (const auto level =
+                            text::parseNumber(s.text(1, kTriggerRowLevel), locale_)) {
                         set.dblTriggerLevel = *level;
                     }
                 }
-                s.setText(0, kRowLevel, host_.text(msg::kLevel));
+                s.setText(0, kTriggerRowLevel, host_.text(msg::kLevel));
             }
             break;
-        case kRowBoot: {
-            const int index = s.selectedIndex(1, kRowBoot);
+        case kTriggerRowBoot: {
+            const int index = s.selectedIndex(1, kTriggerRowBoot);
             set.intTriggerBoot = index < 0 ? kNoTriggerBoot : static_cast<int16_t>(index);
             break;
         }
@@ -273,31 +273,31 @@ void SettingSheets::takeTriggerRow(int row) {
 void SettingSheets::reevaluateLevel() {
     ui::SpreadSheet& s = sprTrigger_;
     SAMPSETTING& set = state_.sampSetting;
-    s.setLocked(1, kRowLevel, true);
+    s.setLocked(1, kTriggerRowLevel, true);
     if (set.intTriggerType != kTriggerNotUsed) {
-        const auto level = text::parseNumber(s.text(1, kRowLevel), locale_);
+        const auto level = text::parseNumber(s.text(1, kTriggerRowLevel), locale_);
         if (!level) {
-            s.setNumber(1, kRowLevel, 0);
+            s.setNumber(1, kTriggerRowLevel, 0);
             set.dblTriggerLevel = 0;
         } else if (set.intTriggerType == kTriggerInside) {
             const int target = set.intTriggerTarget;
             if (target >= 1 && target <= kChannelCount && channelIsSet(target) &&
                 state_.chSetting[static_cast<size_t>(target)].intAD == 0) {
-                s.setLocked(1, kRowLevel, false);
+                s.setLocked(1, kTriggerRowLevel, false);
                 set.dblTriggerLevel = *level;
             }
         }
     }
-    s.setText(0, kRowLevel, host_.text(msg::kLevel));
+    s.setText(0, kTriggerRowLevel, host_.text(msg::kLevel));
 }
 
 void SettingSheets::takePosition() {
     SAMPSETTING& set = state_.sampSetting;
     if (set.intTriggerType == kTriggerNotUsed) return;
     const float position =
-        triggerPositionFrom(text::parseNumber(sprTrigger_.text(1, kRowPosition), locale_));
+        triggerPositionFrom(text::parseNumber(sprTrigger_.text(1, kTriggerRowPosition), locale_));
     set.sngTriggerPosition = position;
-    sprTrigger_.setText(1, kRowPosition, positionText(position));
+    sprTrigger_.setText(1, kTriggerRowPosition, positionText(position));
 }
 
 }  // namespace zt

@@ -78,6 +78,14 @@ inline constexpr std::array<InterfaceMember, 39> kGraphControlMembers{{
 // The member with a dispatch id; nullptr when there is none.
 const InterfaceMember* findMember(int32_t dispId);
 
+// The dispatch id of a member by name, for hosts that call by id; 0 for an unknown name.
+constexpr int32_t dispIdOf(std::string_view name) {
+    for (const InterfaceMember& m : kGraphControlMembers) {
+        if (m.name == name) return m.dispId;
+    }
+    return 0;
+}
+
 // A value of a late-bound call. Records and in/out values travel by reference: the dispatch
 // writes them back into the argument list.
 using DispatchValue =

@@ -9,10 +9,10 @@ namespace zt::sim {
 
 namespace {
 
-constexpr int32_t kDispStartErr = 0x4003003A;
-constexpr int32_t kDispSetSamplingData = 0x6003007A;
-constexpr int32_t kDispSetGraphRequest = 0x6003007E;
-constexpr int32_t kDispGetGraphRequest = 0x6003007F;
+constexpr int32_t kDispStartErr = dispIdOf("m_blnStartErr");
+constexpr int32_t kDispSetSamplingData = dispIdOf("SetSamplingData");
+constexpr int32_t kDispSetGraphRequest = dispIdOf("SetGraphRequest");
+constexpr int32_t kDispGetGraphRequest = dispIdOf("GetGraphRequest");
 
 }  // namespace
 
