@@ -9,10 +9,10 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "control/graph_state.h"
-#include "graph/chart_refs.h"
+#include "core/chart_refs.h"
+#include "core/conversion_table.h"
+#include "core/graph_state.h"
 #include "graph/chart_setup.h"
-#include "graph/conversion_table.h"
 #include "graph/plot_graph.h"
 #include "render/render_chart.h"
 #include "sim/drive_waveforms.h"

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
-#include "config/settings_model.h"
 #include "config/sheet_rows.h"
+#include "core/settings_model.h"
 #include "platform/ui/spread_sheet.h"
 
 namespace zt {

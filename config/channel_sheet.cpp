@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "config/channel_rules.h"
-#include "config/item_tables.h"
-#include "config/setting_limits.h"
 #include "config/setting_sheets.h"
+#include "core/item_tables.h"
+#include "core/setting_limits.h"
 
 namespace zt {
 

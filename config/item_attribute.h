@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <string>
 
-#include "config/item_tables.h"
-#include "config/settings_model.h"
+#include "core/item_tables.h"
+#include "core/settings_model.h"
 #include "platform/zt_common.h"
 
 namespace zt {

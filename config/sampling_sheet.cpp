@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "config/setting_limits.h"
 #include "config/setting_sheets.h"
 #include "config/sheet_rows.h"
+#include "core/setting_limits.h"
 #include "platform/text/number_text.h"
 #include "platform/text/numeric.h"
 

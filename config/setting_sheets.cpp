@@ -6,9 +6,9 @@
 
 #include "config/channel_rules.h"
 #include "config/item_attribute.h"
-#include "config/item_tables.h"
-#include "config/setting_limits.h"
-#include "graph/channel_colors.h"
+#include "core/channel_colors.h"
+#include "core/item_tables.h"
+#include "core/setting_limits.h"
 
 namespace zt {
 

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "config/setting_hooks.h"
-#include "control/graph_state.h"
-#include "control/host_services.h"
+#include "core/graph_state.h"
+#include "core/host_services.h"
 #include "platform/host_locale.h"
 #include "platform/ui/spread_sheet.h"
 #include "platform/ui/static_controls.h"

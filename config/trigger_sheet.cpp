@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "config/channel_rules.h"
-#include "config/setting_limits.h"
 #include "config/setting_sheets.h"
 #include "config/sheet_rows.h"
+#include "core/setting_limits.h"
 #include "platform/text/number_text.h"
 #include "platform/text/numeric.h"
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "control/comm_error_text.h"
-#include "control/ini_file_access.h"
-#include "graph/channel_colors.h"
+#include "core/channel_colors.h"
+#include "core/comm_error_text.h"
+#include "core/ini_file_access.h"
 #include "graph/chart_setup.h"
 #include "graph/plot_graph.h"
 #include "graph/surface_layout.h"

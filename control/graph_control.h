@@ -9,12 +9,12 @@
 #include <vector>
 
 #include "config/setting_sheets.h"
-#include "control/graph_state.h"
-#include "control/graph_surface.h"
-#include "control/host_services.h"
-#include "graph/chart_refs.h"
-#include "graph/conversion_table.h"
-#include "graph/plot_inputs.h"
+#include "core/chart_refs.h"
+#include "core/conversion_table.h"
+#include "core/graph_state.h"
+#include "core/graph_surface.h"
+#include "core/host_services.h"
+#include "core/plot_inputs.h"
 #include "platform/chart/chart_root.h"
 #include "platform/common_library.h"
 #include "platform/graph_host_interface.h"

@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "config/item_attribute.h"
-#include "config/item_tables.h"
 #include "control/graph_control.h"
+#include "core/item_tables.h"
 #include "graph/plot_graph.h"
 #include "platform/text/date_time_text.h"
 #include "platform/text/numeric.h"

@@ -1,6 +1,6 @@
 #include "graph/chart_setup.h"
 
-#include "graph/channel_colors.h"
+#include "core/channel_colors.h"
 #include "platform/chart/chart_design.h"
 
 namespace zt {

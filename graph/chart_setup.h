@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <optional>
 
-#include "config/settings_model.h"
-#include "graph/chart_refs.h"
+#include "core/chart_refs.h"
+#include "core/settings_model.h"
 #include "platform/font.h"
 
 namespace zt {

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <string>
 
-#include "graph/conversion_table.h"
-#include "graph/sample_conversion.h"
+#include "core/conversion_table.h"
+#include "core/sample_conversion.h"
 #include "platform/chart/chart_design.h"
 
 namespace zt {

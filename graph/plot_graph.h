@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "control/graph_state.h"
-#include "graph/chart_refs.h"
-#include "graph/plot_inputs.h"
+#include "core/chart_refs.h"
+#include "core/graph_state.h"
+#include "core/plot_inputs.h"
 
 namespace zt {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "control/message_catalogue.h"
+#include "core/message_catalogue.h"
 
 namespace zt {
 

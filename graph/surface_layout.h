@@ -2,8 +2,8 @@
 // panel's tab switching, the sheet tab switching and the rules applied on every resize.
 #pragma once
 
-#include "control/graph_surface.h"
-#include "control/host_services.h"
+#include "core/graph_surface.h"
+#include "core/host_services.h"
 #include "platform/host_locale.h"
 
 namespace zt {

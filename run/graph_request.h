@@ -5,8 +5,8 @@
 #include <array>
 #include <cstdint>
 
-#include "config/settings_model.h"
-#include "control/graph_state.h"
+#include "core/graph_state.h"
+#include "core/settings_model.h"
 #include "platform/host_records.h"
 #include "platform/zt_common.h"
 

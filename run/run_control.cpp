@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "control/comm_error_text.h"
+#include "core/comm_error_text.h"
 #include "run/graph_request.h"
 #include "run/run_state_apply.h"
 #include "run/start_checks.h"

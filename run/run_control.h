@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <functional>
 
-#include "control/graph_state.h"
-#include "control/graph_surface.h"
-#include "control/host_services.h"
+#include "core/graph_state.h"
+#include "core/graph_surface.h"
+#include "core/host_services.h"
 #include "run/run_hooks.h"
 #include "run/run_states.h"
 #include "run/sweep_capture.h"

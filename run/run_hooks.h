@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "graph/plot_inputs.h"
+#include "core/plot_inputs.h"
 
 namespace zt {
 

@@ -1,7 +1,7 @@
 // Puts a run state's view onto the surface: the one place where run states touch controls.
 #pragma once
 
-#include "control/graph_surface.h"
+#include "core/graph_surface.h"
 #include "run/run_hooks.h"
 #include "run/run_states.h"
 

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "config/setting_limits.h"
-#include "control/comm_error_text.h"
+#include "core/comm_error_text.h"
+#include "core/setting_limits.h"
 
 namespace zt {
 

@@ -3,8 +3,8 @@
 // changed either way.
 #pragma once
 
-#include "control/graph_state.h"
-#include "control/host_services.h"
+#include "core/graph_state.h"
+#include "core/host_services.h"
 #include "run/run_hooks.h"
 
 namespace zt {

@@ -11,7 +11,7 @@
 #include <span>
 #include <vector>
 
-#include "graph/conversion_table.h"
+#include "core/conversion_table.h"
 #include "platform/host_records.h"
 
 namespace zt {

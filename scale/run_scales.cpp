@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "config/setting_limits.h"
+#include "core/setting_limits.h"
 
 namespace zt {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "control/graph_state.h"
+#include "core/graph_state.h"
 
 namespace zt {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "config/item_attribute.h"
-#include "config/item_tables.h"
+#include "core/item_tables.h"
 #include "sim/drive_catalogue.h"
 #include "sim/sim_common.h"
 

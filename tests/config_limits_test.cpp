@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "config/setting_limits.h"
+#include "core/setting_limits.h"
 
 namespace zt {
 namespace {

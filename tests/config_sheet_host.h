@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "config/setting_sheets.h"
-#include "control/graph_state.h"
-#include "control/graph_surface.h"
-#include "control/host_services.h"
-#include "graph/channel_colors.h"
+#include "core/channel_colors.h"
+#include "core/graph_state.h"
+#include "core/graph_surface.h"
+#include "core/host_services.h"
 #include "sim/sim_common_library.h"
 
 namespace zt::testing {

@@ -5,7 +5,7 @@
 
 #include "control/graph_control.h"
 #include "control/graph_control_interface.h"
-#include "graph/chart_refs.h"
+#include "core/chart_refs.h"
 #include "run/run_states.h"
 #include "sim/sim_common_library.h"
 #include "sim/sim_host.h"

@@ -4,8 +4,8 @@
 #include <memory>
 #include <optional>
 
-#include "control/graph_state.h"
-#include "graph/chart_refs.h"
+#include "core/chart_refs.h"
+#include "core/graph_state.h"
 #include "graph/chart_setup.h"
 #include "graph/plot_graph.h"
 

@@ -1,7 +1,7 @@
 // Communication error boxes as the user reads them.
 #include <gtest/gtest.h>
 
-#include "control/comm_error_text.h"
+#include "core/comm_error_text.h"
 #include "run_fixture.h"
 
 namespace zt::testing {

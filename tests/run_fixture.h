@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "config/channel_rules.h"
-#include "config/item_tables.h"
 #include "control/graph_control.h"
 #include "control/graph_control_interface.h"
+#include "core/item_tables.h"
 #include "platform/text/format_pattern.h"
 #include "sim/sim_common_library.h"
 #include "sim/sim_host.h"

@@ -1,4 +1,4 @@
-#include "control/graph_surface.h"
+#include "core/graph_surface.h"
 
 namespace zt {
 

@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <span>
 
-#include "graph/conversion_table.h"
+#include "core/conversion_table.h"
+#include "core/samp_data.h"
 #include "platform/host_records.h"
-#include "run/samp_data.h"
 
 namespace zt {
 

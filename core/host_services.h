@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "control/message_catalogue.h"
+#include "core/message_catalogue.h"
 #include "platform/common_library.h"
 #include "platform/font.h"
 

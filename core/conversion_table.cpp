@@ -1,4 +1,4 @@
-#include "graph/conversion_table.h"
+#include "core/conversion_table.h"
 
 namespace zt {
 

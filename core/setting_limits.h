@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "config/settings_model.h"
+#include "core/settings_model.h"
 #include "platform/host_records.h"
 
 namespace zt {
@@ -52,6 +52,9 @@ Limits samplingTimeLimits(int16_t speed, double interval, double mask);
 // The trigger position rule: 10 to 90 in steps of 10, half to even; nullopt (not a number)
 // gives 10.
 float triggerPositionFrom(std::optional<double> value);
+
+// A number of at least two digits: "01", "31", "255".
+std::string twoDigitText(int32_t number);
 
 // A station as shown: "00" to "31", `noneText` for no station (32 or anything outside 0-31).
 std::string stationText(int32_t station, const std::string& noneText);

@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
-#include "config/item_tables.h"
-#include "config/settings_model.h"
-#include "config/two_channel_memory.h"
-#include "graph/graph_info.h"
+#include "core/graph_history.h"
+#include "core/graph_info.h"
+#include "core/item_tables.h"
+#include "core/samp_data.h"
+#include "core/settings_model.h"
+#include "core/two_channel_memory.h"
 #include "platform/host_records.h"
 #include "platform/zt_common.h"
-#include "run/samp_data.h"
-#include "store/graph_history.h"
 
 namespace zt {
 

@@ -1,4 +1,4 @@
-#include "control/ini_file_access.h"
+#include "core/ini_file_access.h"
 
 #include <algorithm>
 #include <vector>

@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <string_view>
 
-#include "config/settings_model.h"
-#include "graph/plot_inputs.h"
-#include "run/samp_data.h"
+#include "core/plot_inputs.h"
+#include "core/samp_data.h"
+#include "core/settings_model.h"
 
 namespace zt {
 

@@ -1,6 +1,6 @@
-#include "config/item_tables.h"
+#include "core/item_tables.h"
 
-#include "config/setting_limits.h"
+#include "core/setting_limits.h"
 
 namespace zt {
 

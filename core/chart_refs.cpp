@@ -1,4 +1,4 @@
-#include "graph/chart_refs.h"
+#include "core/chart_refs.h"
 
 #include "platform/chart/chart_design.h"
 

@@ -1,4 +1,4 @@
-#include "config/setting_limits.h"
+#include "core/setting_limits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -96,9 +96,15 @@ float triggerPositionFrom(std::optional<double> value) {
     return static_cast<float>(text::roundHalfEven(*value / 10) * 10);
 }
 
+std::string twoDigitText(int32_t number) {
+    std::string text = number >= 0 && number < 10 ? "0" : "";
+    text += std::to_string(number);
+    return text;
+}
+
 std::string stationText(int32_t station, const std::string& noneText) {
     if (station < 0 || station >= kStationCount) return noneText;
-    return (station < 10 ? "0" : "") + std::to_string(station);
+    return twoDigitText(station);
 }
 
 int32_t stationFromText(const std::string& text, const std::string& noneText) {
@@ -110,7 +116,7 @@ int32_t stationFromText(const std::string& text, const std::string& noneText) {
 
 std::string triggerTargetText(int16_t triggerType, int16_t target, const std::string& noValueText) {
     if (target == kNoTriggerTarget || target < 0) return noValueText;
-    const std::string two = (target < 10 ? "0" : "") + std::to_string(target);
+    const std::string two = twoDigitText(target);
     return triggerType == kTriggerInside ? "CH" + two : two;
 }
 

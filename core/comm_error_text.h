@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string>
 
-#include "control/host_services.h"
+#include "core/host_services.h"
 
 namespace zt {
 

@@ -1,4 +1,4 @@
-#include "graph/sample_conversion.h"
+#include "core/sample_conversion.h"
 
 #include <algorithm>
 #include <cmath>

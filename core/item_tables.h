@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "config/settings_model.h"
+#include "core/settings_model.h"
 #include "platform/host_records.h"
 #include "platform/zt_common.h"
 

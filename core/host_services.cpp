@@ -1,4 +1,4 @@
-#include "control/host_services.h"
+#include "core/host_services.h"
 
 namespace zt {
 

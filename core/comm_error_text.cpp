@@ -1,4 +1,4 @@
-#include "control/comm_error_text.h"
+#include "core/comm_error_text.h"
 
 #include <exception>
 
