@@ -4,6 +4,7 @@
 #include <string>
 
 #include "config/sheet_rows.h"
+#include "core/setting_limits.h"
 
 namespace zt::cli {
 
@@ -77,7 +78,7 @@ CaptureTiming scenarioTiming(CaptureScenario scenario) {
 
 void configureCapture(ztGraphControl& control, CaptureScenario scenario) {
     GraphSurface& s = control.surface();
-    const std::string station = (kDemoStation < 10 ? "0" : "") + std::to_string(kDemoStation);
+    const std::string station = twoDigitText(kDemoStation);
 
     // Sampling first: the speed decides which items the channel lists offer.
     s.tabSpread.select(2);

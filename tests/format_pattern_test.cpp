@@ -59,9 +59,7 @@ TEST(FormatNumberTest, SinglesGoThroughSevenDigits) {
 }
 
 TEST(FormatNumberTest, UsesTheLocaleDecimalSeparator) {
-    HostLocale comma;
-    comma.decimalSeparator = ",";
-    comma.thousandsSeparator = ".";
+    const HostLocale comma{.decimalSeparator = ",", .thousandsSeparator = "."};
     EXPECT_EQ(formatNumber(2.25, "######0.0", comma), "2,3");
     EXPECT_EQ(formatNumber(-0.1, ".#", comma), "-,1");
     EXPECT_EQ(formatNumber(1234567.891, "#,##0.00", comma), "1.234.567,89");

@@ -15,7 +15,8 @@ struct TextBoxLog {
     TextBox box{"txtComment"};
     std::vector<std::string> log;
     TextBoxLog() {
-        box.KeyPress.connect([this](int& k) { log.push_back("K" + std::to_string(k)); });
+        box.KeyPress.connect(
+            [this](int& k) { log.push_back(std::string("K").append(std::to_string(k))); });
         box.Change.connect([this] { log.push_back("C" + box.text()); });
     }
 };

@@ -25,7 +25,13 @@ bool sameName(std::string_view a, std::string_view b) {
 
 std::string displayName(std::string_view name, int index) {
     std::string out(name);
-    if (index >= 0) out += "(" + std::to_string(index) + ")";
+    if (index >= 0) {
+        // Appended piece by piece: GCC 12 at -O3 warns falsely (-Wrestrict) on a chain of
+        // std::string operator+ here.
+        out += '(';
+        out += std::to_string(index);
+        out += ')';
+    }
     return out;
 }
 
