@@ -21,5 +21,5 @@ if [ -n "$missing" ]; then
     DEBIAN_FRONTEND=noninteractive apt-get install -y -qq $missing >/dev/null
 fi
 
-cmake -S . -B "$build" -G Ninja "$@" >/dev/null
+cmake -S . -B "$build" -G Ninja -DZTGRAPH_WERROR=ON "$@" >/dev/null
 cmake --build "$build"
