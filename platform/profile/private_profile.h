@@ -18,8 +18,9 @@ namespace zt::profile {
 // untouched and returns 0.
 // - Missing file, section or key: `defaultValue` with trailing spaces removed (NULL = "").
 // - `key` NULL: the key names of the first matching section, each followed by a NUL, plus a
-//   final NUL; an empty list gives the default. `section` NULL: all section names likewise
-//   (a missing file gives an empty list). A list that does not fit is cut to size-2 bytes
+//   final NUL; an empty list, or one cut to nothing, gives the default untrimmed. `section`
+//   NULL: all section names likewise (a missing file gives an empty list). Lines before the
+//   first header are the keys of section "". A list that does not fit is cut to size-2 bytes
 //   followed by two NULs and size-2 is returned.
 uint32_t GetPrivateProfileStringA(const char* section, const char* key, const char* defaultValue,
                                   char* buffer, uint32_t size, const char* fileName);

@@ -20,12 +20,13 @@ constexpr std::size_t kValueLengthWrap = 65536;
 enum class Lookup { Found, NotFound, NoFile };
 
 // Finds the first `key` in the first section named `section`. Lines before the first header
-// belong to no section; a later section of the same name is never searched.
+// form a section named "" that always comes first, so a "[]" header is never searched; nor is
+// any later section of the same name.
 Lookup lookupValue(std::string_view section, std::string_view key, const char* fileName,
                    std::string& value) {
     ProfileLineReader reader(fileName);
     if (!reader.isOpen()) return Lookup::NoFile;
-    bool inSection = false;
+    bool inSection = section.empty();
     std::string_view line;
     while (reader.next(line)) {
         if (!inSection && !isSectionLine(line)) continue;
@@ -61,11 +62,12 @@ bool listSections(const char* fileName, std::string& list) {
     return true;
 }
 
-// Appends the key names of the first section named `section`, duplicates included, each
-// followed by a NUL. Lines without '=' are not keys and are left out.
+// Appends the key names of the first section named `section` (the lines before the first
+// header for ""), duplicates included, each followed by a NUL. Lines without '=' are not keys
+// and are left out.
 void listKeys(std::string_view section, const char* fileName, std::string& list) {
     ProfileLineReader reader(fileName);
-    bool inSection = false;
+    bool inSection = section.empty();
     std::string_view line;
     while (reader.next(line)) {
         if (!inSection && !isSectionLine(line)) continue;
@@ -129,10 +131,13 @@ uint32_t GetPrivateProfileStringA(const char* section, const char* key, const ch
     }
     const std::string_view sectionName = trimSpaces(section);
     if (key == nullptr) {
+        // A key list that is empty or does not fit even one byte gives the default as it
+        // stands, trailing blanks included.
         std::string list;
         if (haveFile) listKeys(sectionName, fileName, list);
-        if (list.empty()) return copyDefault(defaultValue, buffer, size);
-        return copyList(list, buffer, size);
+        const uint32_t n = copyList(list, buffer, size);
+        if (n > 0) return n;
+        return copyText(defaultValue != nullptr ? defaultValue : "", buffer, size);
     }
     std::string value;
     if (haveFile && lookupValue(sectionName, trimSpaces(key), fileName, value) == Lookup::Found) {
