@@ -17,8 +17,9 @@ namespace zt::profile {
 // plus a NUL) and returns the number of bytes copied without the NUL. Size 0 leaves the buffer
 // untouched and returns 0.
 // - Missing file, section or key: `defaultValue` with trailing spaces removed (NULL = "").
-// - `key` NULL: the key names of the first matching section, each followed by a NUL, plus a
-//   final NUL; an empty list, or one cut to nothing, gives the default untrimmed. `section`
+// - `key` NULL: the key names of the first section named exactly `section` (no blanks
+//   removed), each followed by a NUL, plus a final NUL; an empty list, one that starts with an
+//   empty name or one cut to nothing gives the default untrimmed. `section`
 //   NULL: all section names likewise (a missing file gives an empty list). Lines before the
 //   first header are the keys of section "". A list that does not fit is cut to size-2 bytes
 //   followed by two NULs and size-2 is returned.

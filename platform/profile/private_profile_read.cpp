@@ -63,8 +63,8 @@ bool listSections(const char* fileName, std::string& list) {
 }
 
 // Appends the key names of the first section named `section` (the lines before the first
-// header for ""), duplicates included, each followed by a NUL. Lines without '=' are not keys
-// and are left out.
+// header for ""), duplicates included, each followed by a NUL; a key line with an empty name
+// gives an empty entry. Lines without '=' are not keys and are left out.
 void listKeys(std::string_view section, const char* fileName, std::string& list) {
     ProfileLineReader reader(fileName);
     bool inSection = section.empty();
@@ -75,7 +75,7 @@ void listKeys(std::string_view section, const char* fileName, std::string& list)
         if (parsed.kind == LineKind::Section) {
             if (inSection) return;
             inSection = equalsIgnoreCase(parsed.name, section);
-        } else if (inSection && parsed.kind == LineKind::Key && !parsed.name.empty()) {
+        } else if (inSection && parsed.kind == LineKind::Key) {
             list.append(parsed.name);
             list.push_back('\0');
         }
@@ -131,13 +131,14 @@ uint32_t GetPrivateProfileStringA(const char* section, const char* key, const ch
     }
     const std::string_view sectionName = trimSpaces(section);
     if (key == nullptr) {
-        // A key list that is empty or does not fit even one byte gives the default as it
-        // stands, trailing blanks included.
+        // The key list matches the section name as given, blanks included. A list that is
+        // empty, starts with an empty name or does not fit even one byte gives the default as
+        // it stands, trailing blanks included.
         std::string list;
-        if (haveFile) listKeys(sectionName, fileName, list);
-        const uint32_t n = copyList(list, buffer, size);
-        if (n > 0) return n;
-        return copyText(defaultValue != nullptr ? defaultValue : "", buffer, size);
+        if (haveFile) listKeys(section, fileName, list);
+        if (list.empty() || list.front() == '\0' || size <= 2)
+            return copyText(defaultValue != nullptr ? defaultValue : "", buffer, size);
+        return copyList(list, buffer, size);
     }
     std::string value;
     if (haveFile && lookupValue(sectionName, trimSpaces(key), fileName, value) == Lookup::Found) {
