@@ -47,6 +47,45 @@ inline std::string readTags(const ReadQuery& q) {
     return tags;
 }
 
+// True when a settings file holds an empty section header ("[]", "[ ]"). Wine writes the file
+// back from its parsed form without such headers, so their keys join the section above.
+inline bool hasEmptyHeader(const std::string& text) {
+    std::size_t pos = 0;
+    while (pos < text.size()) {
+        std::size_t end = text.find_first_of("\r\n", pos);
+        if (end == std::string::npos) end = text.size();
+        std::size_t b = pos;
+        while (b < end && (text[b] == ' ' || text[b] == '\t'))
+            ++b;
+        if (b < end && text[b] == '[') {
+            std::size_t c = b + 1;
+            while (c < end && (text[c] == ' ' || text[c] == '\t'))
+                ++c;
+            if (c < end && text[c] == ']') return true;
+        }
+        pos = end + 1;
+    }
+    return false;
+}
+
+// True when one section of a settings file holds two key lines with an empty name ("=a",
+// " = b"). Wine keeps only one of them when it writes the file back from its parsed form.
+inline bool hasRepeatedEmptyName(const std::string& text) {
+    int emptyNames = 0;
+    std::size_t pos = 0;
+    while (pos < text.size()) {
+        std::size_t end = text.find_first_of("\r\n", pos);
+        if (end == std::string::npos) end = text.size();
+        std::size_t b = pos;
+        while (b < end && (text[b] == ' ' || text[b] == '\t'))
+            ++b;
+        if (b < end && text[b] == '[' && text.find(']', b) < end) emptyNames = 0;
+        if (b < end && text[b] == '=' && ++emptyNames == 2) return true;
+        pos = end + 1;
+    }
+    return false;
+}
+
 class Output {
   public:
     explicit Output(std::FILE* out) : out_(out) {}
@@ -91,7 +130,15 @@ void runProfileWrite(Backend& b, Output& out, uint64_t seed) {
     uint32_t number = 0;
     for (uint32_t f = 0; f < kWriteFiles; ++f) {
         const std::string path = b.path("w" + std::to_string(f) + ".ini");
-        if (r.chance(90)) b.writeFile(path, randomProfileFile(r));
+        std::string tags;
+        if (r.chance(90)) {
+            const std::string content = randomProfileFile(r);
+            b.writeFile(path, content);
+            if (hasEmptyHeader(content))
+                tags = "empty-header";
+            else if (hasRepeatedEmptyName(content))
+                tags = "repeated-empty-name";
+        }
         for (uint32_t i = 0; i < kWritesPerFile; ++i) {
             const WriteCall w = randomWrite(r);
             const bool ok = b.writeProfile(w, path);
@@ -104,8 +151,8 @@ void runProfileWrite(Backend& b, Output& out, uint64_t seed) {
                 const uint32_t n = b.getProfile(*q, buffer, path);
                 answer += " '" + escape(buffer.substr(0, n)) + "'";
             }
-            out.line("profile-write", number++, "", "file " + std::to_string(f) + " " + describe(w),
-                     answer);
+            out.line("profile-write", number++, tags,
+                     "file " + std::to_string(f) + " " + describe(w), answer);
         }
     }
 }

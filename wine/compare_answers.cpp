@@ -85,7 +85,7 @@ using Rule = std::function<bool(const Case& windows, const Case& native)>;
 std::map<std::string, Rule> rules() {
     std::map<std::string, Rule> r;
     // Cases whose input holds the odd form named by the tag.
-    for (const char* tag : {"quoted-default", "tab-name"}) {
+    for (const char* tag : {"quoted-default", "tab-name", "empty-header", "repeated-empty-name"}) {
         r[std::string("tag:") + tag] = [tag](const Case& w, const Case&) { return hasTag(w, tag); };
     }
     // A name list cut to the buffer: Windows ends it with two NULs, Wine with one.
