@@ -130,13 +130,50 @@ std::map<std::string, Rule> rules() {
         }
         return false;
     };
-    // Text of a magnitude below one half to an integer: Wine gives 1 or -1 instead of 0.
+    // Text of a magnitude below one half to an integer: Wine gives 1 or -1 instead of 0 (the
+    // double may differ in its last bits as well).
     r["small-text-to-one"] = [](const Case& w, const Case& n) {
         const std::vector<std::string> a = words(w.answer), b = words(n.answer);
-        if (a.size() != 6 || b.size() != 6 || a[1] != b[1] || a[1].size() != 16) return false;
-        const double v = doubleOfBits(std::strtoull(a[1].c_str(), nullptr, 16));
+        if (a.size() != 6 || b.size() != 6 || a[1].size() != 16 || b[1].size() != 16) return false;
+        const int64_t x = static_cast<int64_t>(std::strtoull(a[1].c_str(), nullptr, 16));
+        const int64_t y = static_cast<int64_t>(std::strtoull(b[1].c_str(), nullptr, 16));
+        if (x - y > 2 || y - x > 2) return false;
+        const double v = doubleOfBits(static_cast<uint64_t>(x));
         return v > -0.5 && v < 0.5 && b[3] == "0" && b[5] == "0" && (a[3] == "1" || a[3] == "-1") &&
                a[3] == a[5];
+    };
+    // "-0": Wine keeps the sign of the zero, the project reads plain 0.
+    r["negative-zero"] = [](const Case& w, const Case& n) {
+        return w.answer == "r8 8000000000000000 i2 0 i4 0" &&
+               n.answer == "r8 0000000000000000 i2 0 i4 0";
+    };
+    // Hexadecimal and octal texts ("&H", "&O"): Wine ignores a sign next to them, reads up to
+    // four hex digits unsigned for doubles and 32-bit integers, and refuses a currency symbol
+    // or exponent sign around them.
+    r["hex-octal-text"] = [](const Case& w, const Case&) {
+        for (std::size_t i = 0; i + 1 < w.question.size(); ++i) {
+            const char c = static_cast<char>(w.question[i + 1] | 0x20);
+            if (w.question[i] == '&' && (c == 'h' || c == 'o')) return true;
+        }
+        return false;
+    };
+    // Texts the numeric test refuses and Wine's parser takes (or takes and then finds too
+    // large): group separators after the decimal separator or at the end ("0.5,", ".1,52"),
+    // several signs ("-+9", "1000++", "(9-"), an exponent before the digits ("e1,5" is 50),
+    // line ends inside the number ("1\r\n,").
+    r["wine-takes-malformed"] = [](const Case& w, const Case& n) {
+        return n.answer == "r8 mismatch i2 mismatch i4 mismatch" &&
+               w.answer != "r8 mismatch i2 mismatch i4 mismatch";
+    };
+    // A currency symbol together with an exponent ("$1e2"): the numeric test takes it, Wine
+    // refuses it.
+    r["currency-with-exponent"] = [](const Case& w, const Case& n) {
+        const std::string& q = w.question;
+        const bool currency =
+            q.find('$') != std::string::npos || q.find("\\xE2\\x82\\xAC") != std::string::npos;
+        const bool exponent = q.find_first_of("eE", 3) != std::string::npos;
+        return currency && exponent && w.answer == "r8 mismatch i2 mismatch i4 mismatch" &&
+               n.answer != w.answer;
     };
     // A pattern without decimal places and a value of magnitude 0.5 to 1: Wine does not round
     // it up to 1.
@@ -154,7 +191,8 @@ std::map<std::string, Rule> rules() {
         uint64_t bits = 0;
         if (!questionBits(w, bits) || formatPattern(w).rfind(".", 0) != 0) return false;
         const double v = doubleOfBits(bits);
-        const bool wineDigitsFirst = w.answer.find_first_of("0123456789") < w.answer.find('.');
+        const bool wineDigitsFirst =
+            w.answer.find_first_of("0123456789") < w.answer.find_first_of(".,");
         return (v >= 0.95 || v <= -0.95) && !wineDigitsFirst && n.answer != w.answer;
     };
     // Values so small that their number text has the exponent form: Wine's formatter shows
@@ -164,6 +202,18 @@ std::map<std::string, Rule> rules() {
         if (!questionBits(w, bits)) return false;
         const double v = doubleOfBits(bits);
         return v != 0 && v > -1e-5 && v < 1e-5;
+    };
+    // A comma-decimal locale and a value whose number text has the exponent form (doubles
+    // from 1E+15 or below 1E-04, singles from 1E+07): Wine formats the text "2.075012E+08"
+    // and reads it back in the locale, where "." groups thousands, so 2.075012E+08 shows as
+    // 207501200000000.
+    r["comma-locale-exponent-value"] = [](const Case& w, const Case&) {
+        uint64_t bits = 0;
+        if (w.question.rfind("de ", 0) != 0 || !questionBits(w, bits)) return false;
+        const double v = doubleOfBits(bits);
+        const double m = v < 0 ? -v : v;
+        const bool single = w.question.find(" R4 ") != std::string::npos;
+        return m != 0 && (m < 1e-4 || m >= (single ? 1e7 : 1e15));
     };
     return r;
 }
