@@ -328,6 +328,28 @@ TEST_F(ProfileFileTest, WritesThatCannotHappenCreateOrChangeNothing) {
     EXPECT_EQ(bytes(), "[A]\na=1");
 }
 
+TEST_F(ProfileFileTest, ListingAndDeletingMatchTheSectionNameAsGiven) {
+    put("[S]\r\na=1\r\n=x\r\nb=2\r\n");
+    EXPECT_EQ(get("S", nullptr), std::string("a\0\0b\0", 5));  // an empty name is listed
+    EXPECT_EQ(get(" S ", nullptr), "dflt");                    // no blanks removed here
+    EXPECT_EQ(get(" S ", "a"), "1");                           // but for a lookup they are
+    EXPECT_TRUE(WritePrivateProfileStringA(" S ", nullptr, nullptr, file_.c_str()));
+    EXPECT_TRUE(WritePrivateProfileStringA("S", " a ", nullptr, file_.c_str()));
+    EXPECT_EQ(bytes(), "[S]\r\na=1\r\n=x\r\nb=2\r\n");
+    EXPECT_TRUE(WritePrivateProfileStringA("S", "a", nullptr, file_.c_str()));
+    EXPECT_EQ(bytes(), "[S]\r\n=x\r\nb=2\r\n");
+    // A list that starts with an empty name gives the default.
+    EXPECT_EQ(get("S", nullptr), "dflt");
+}
+
+TEST_F(ProfileFileTest, WritingTheNameOfALineWithoutEqualsSignTakesThatLine) {
+    put("[S]\r\nKey\r\nb=2\r\n");
+    EXPECT_EQ(get("S", "Key"), "dflt");
+    EXPECT_TRUE(WritePrivateProfileStringA("S", "key", "v", file_.c_str()));
+    EXPECT_EQ(bytes(), "[S]\r\nKey=v\r\nb=2\r\n");
+    EXPECT_EQ(get("S", "KEY"), "v");
+}
+
 // ---------------------------------------------------------------------------------------------
 // The graph text file: keyed writes, each DATA section created by its Comment write and then
 // followed by lines appended with plain file output.
