@@ -28,8 +28,9 @@ uint32_t GetPrivateProfileStringA(const char* section, const char* key, const ch
 
 // Sets `key` in `section` to `value` verbatim, creating the key, section or file as needed.
 // `value` NULL deletes the key's line; `key` NULL deletes the section header and its key lines
-// (its comments stay). Deleting matches the names as given, blanks included. False when `section` or `fileName` is NULL or empty, or the file
-// cannot be read or written (for example a missing folder).
+// (its comments stay). Deleting matches the names as given, blanks included. False when `section`
+// or `fileName` is NULL or empty, or the file cannot be read or written (for example a missing
+// folder).
 bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
                                 const char* fileName);
 
