@@ -340,6 +340,10 @@ TEST_F(ProfileFileTest, ListingAndDeletingMatchTheSectionNameAsGiven) {
     EXPECT_EQ(bytes(), "[S]\r\n=x\r\nb=2\r\n");
     // A list that starts with an empty name gives the default.
     EXPECT_EQ(get("S", nullptr), "dflt");
+    // Empty names in a row (blank lines between them or not) are one entry; any other line
+    // between them keeps them apart.
+    put("[S]\r\nx=1\r\n=a\r\n\r\n=b\r\ny=2\r\n=c\r\n;c\r\n=d\r\n");
+    EXPECT_EQ(get("S", nullptr), std::string("x\0\0y\0\0\0", 7));
 }
 
 TEST_F(ProfileFileTest, WritingTheNameOfALineWithoutEqualsSignTakesThatLine) {

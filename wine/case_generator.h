@@ -36,12 +36,12 @@ class Random {
 };
 
 // Printable form of a byte string for the answer lines: bytes outside 0x20..0x7E and the
-// characters '\' and '|' are written as \xHH.
+// characters \, | and ' are written as \xHH.
 inline std::string escape(const std::string& bytes) {
     static const char digits[] = "0123456789ABCDEF";
     std::string out;
     for (unsigned char c : bytes) {
-        if (c < 0x20 || c > 0x7E || c == '\\' || c == '|') {
+        if (c < 0x20 || c > 0x7E || c == '\\' || c == '|' || c == '\'') {
             out += "\\x";
             out.push_back(digits[c >> 4]);
             out.push_back(digits[c & 15]);

@@ -98,6 +98,35 @@ std::map<std::string, Rule> rules() {
                    0 &&
                w.answer.substr(0, w.answer.size() - 5) == n.answer.substr(0, n.answer.size() - 5);
     };
+    // After a write, the same value, the same sections and the same key names in another
+    // order.
+    r["key-order"] = [](const Case& w, const Case& n) {
+        auto parts = [](const std::string& answer) {
+            std::vector<std::string> p;
+            std::size_t pos = 0;
+            while ((pos = answer.find('\'', pos)) != std::string::npos) {
+                const std::size_t end = answer.find('\'', pos + 1);
+                if (end == std::string::npos) break;
+                p.push_back(answer.substr(pos + 1, end - pos - 1));
+                pos = end + 1;
+            }
+            return p;
+        };
+        auto names = [](const std::string& list) {
+            std::multiset<std::string> set;
+            std::size_t pos = 0;
+            while (pos < list.size()) {
+                std::size_t end = list.find("\\x00", pos);
+                if (end == std::string::npos) end = list.size();
+                set.insert(list.substr(pos, end - pos));
+                pos = end + 4;
+            }
+            return set;
+        };
+        const std::vector<std::string> a = parts(w.answer), b = parts(n.answer);
+        return a.size() == 3 && b.size() == 3 && a[0] == b[0] && a[2] == b[2] && a[1] != b[1] &&
+               names(a[1]) == names(b[1]) && w.answer.substr(0, 5) == n.answer.substr(0, 5);
+    };
     // NaN and infinities.
     r["non-finite"] = [](const Case& w, const Case&) {
         uint64_t bits = 0;

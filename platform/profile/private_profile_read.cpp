@@ -64,10 +64,13 @@ bool listSections(const char* fileName, std::string& list) {
 
 // Appends the key names of the first section named `section` (the lines before the first
 // header for ""), duplicates included, each followed by a NUL; a key line with an empty name
-// gives an empty entry. Lines without '=' are not keys and are left out.
+// gives an empty entry. Lines without '=' and comments are not keys and are left out.
 void listKeys(std::string_view section, const char* fileName, std::string& list) {
     ProfileLineReader reader(fileName);
     bool inSection = section.empty();
+    // Consecutive key lines with an empty name (blank lines between them do not count) give
+    // one empty entry.
+    bool afterEmptyName = false;
     std::string_view line;
     while (reader.next(line)) {
         if (!inSection && !isSectionLine(line)) continue;
@@ -75,9 +78,13 @@ void listKeys(std::string_view section, const char* fileName, std::string& list)
         if (parsed.kind == LineKind::Section) {
             if (inSection) return;
             inSection = equalsIgnoreCase(parsed.name, section);
-        } else if (inSection && parsed.kind == LineKind::Key) {
-            list.append(parsed.name);
-            list.push_back('\0');
+        } else if (inSection && parsed.kind != LineKind::Blank) {
+            const bool emptyName = parsed.kind == LineKind::Key && parsed.name.empty();
+            if (parsed.kind == LineKind::Key && !(emptyName && afterEmptyName)) {
+                list.append(parsed.name);
+                list.push_back('\0');
+            }
+            afterEmptyName = emptyName;
         }
     }
 }

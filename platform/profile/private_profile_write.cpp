@@ -54,7 +54,8 @@ SectionLayout locate(std::string_view text, std::string_view section, std::strin
         } else if (inSection && parsed.kind == LineKind::Other && wantKey &&
                    layout.keyBegin == kNone) {
             // A line without '=' is a key without a value: reading it gives the default, but
-            // writing or deleting its name takes that line.
+            // writing or deleting its name takes that line. New keys still go before such
+            // lines (the data tables of a graph file stay after its keys).
             const std::string_view name = trimBlanks(text.substr(pos, span.contentEnd - pos));
             if (equalsIgnoreCase(name, key)) {
                 layout.keyBegin = pos;
