@@ -1,7 +1,9 @@
 // The differential suite's inputs. The Windows program and its native counterpart both include
 // this header and draw every input from the same seeded generator, so that line N of both
-// outputs answers the same question. Only integer arithmetic and bit copies are used: the
-// inputs are identical whichever compiler and C library build them.
+// outputs answers the same question. Only integer arithmetic, plain IEEE operations and bit
+// copies are used, and every draw is a statement of its own (the order in which the operands
+// of one expression are evaluated is unspecified): the inputs are identical whichever
+// compiler, options and C library build them.
 #pragma once
 
 #include <cstdint>
@@ -134,7 +136,10 @@ inline std::string randomValue(Random& r) {
         "-312",     "1E-05", "\xE9t\xE9", "\x82\xA0\x82\xA2",
         "Sam"};
     if (r.chance(85)) return r.pick(stock);
-    if (r.chance(50)) return std::string(40 + r.below(300), static_cast<char>('a' + r.below(26)));
+    if (r.chance(50)) {
+        const uint32_t length = 40 + r.below(300);
+        return std::string(length, static_cast<char>('a' + r.below(26)));
+    }
     std::string s;
     const uint32_t n = r.below(12);
     for (uint32_t i = 0; i < n; ++i) {
@@ -172,17 +177,29 @@ inline std::string randomProfileFile(Random& r) {
         const uint32_t kind = r.below(100);
         std::string line;
         if (kind < 20) {
-            line = blanks(r) + "[" + blanks(r) + caseVariant(r, randomName(r)) + blanks(r) + "]";
+            line = blanks(r) + "[";
+            line += blanks(r);
+            line += caseVariant(r, randomName(r));
+            line += blanks(r);
+            line += "]";
             if (r.chance(10)) line += r.chance(50) ? "]" : " tail";
         } else if (kind < 25) {
             static const std::vector<std::string> odd = {"[]",    "[ ]",  "[T",          "[x]]",
                                                          "[a]b]", "[[y]", " [Main] x=1", "]k=1"};
             line = r.pick(odd);
         } else if (kind < 75) {
-            line = blanks(r) + caseVariant(r, randomName(r)) + blanks(r) + "=" + blanks(r) +
-                   randomValue(r) + blanks(r);
+            line = blanks(r);
+            line += caseVariant(r, randomName(r));
+            line += blanks(r);
+            line += "=";
+            line += blanks(r);
+            line += randomValue(r);
+            line += blanks(r);
         } else if (kind < 82) {
-            line = blanks(r) + ";" + randomName(r) + "=" + randomValue(r);
+            line = blanks(r) + ";";
+            line += randomName(r);
+            line += "=";
+            line += randomValue(r);
         } else if (kind < 88) {
             static const std::vector<std::string> bare = {
                 "Key", "120,0,5,-312,4000,0,0", "=novalue", "=", " = x", "#c", "x y"};
@@ -190,8 +207,9 @@ inline std::string randomProfileFile(Random& r) {
         } else if (kind < 94) {
             line = blanks(r);
         } else {
-            line = std::string(200 + r.below(800), static_cast<char>('A' + r.below(26))) + "=" +
-                   std::string(r.below(900), 'v');
+            const uint32_t nameLength = 200 + r.below(800);
+            line = std::string(nameLength, static_cast<char>('A' + r.below(26))) + "=";
+            line += std::string(r.below(900), 'v');
         }
         text += line;
         if (i + 1 < lines || r.chance(80)) text += lineEnd(r, style);
@@ -212,7 +230,10 @@ struct ReadQuery {
 
 inline std::string queryName(Random& r) {
     std::string name = caseVariant(r, randomName(r));
-    if (r.chance(20)) name = std::string(r.below(3), ' ') + name + std::string(r.below(3), ' ');
+    if (r.chance(20)) {
+        const uint32_t before = r.below(3);
+        name = std::string(before, ' ') + name + std::string(r.below(3), ' ');
+    }
     if (r.chance(3)) name = "\t" + name;
     return name;
 }
@@ -286,7 +307,8 @@ inline double randomDouble(Random& r) {
     if (r.chance(45)) return doubleOf(r.next());
     static const uint64_t powers[] = {
         1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000, 1000000000, 10000000000ull};
-    const double mantissa = static_cast<double>(r.next() % powers[1 + r.below(8)]);
+    const uint64_t digits = r.next();
+    const double mantissa = static_cast<double>(digits % powers[1 + r.below(8)]);
     int exponent = static_cast<int>(r.below(60)) - 35;
     const bool negative = r.chance(30);
     // Plain IEEE operations only (no library parsing), so both sides get the same bits.
