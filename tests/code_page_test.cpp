@@ -47,12 +47,13 @@ INSTANTIATE_TEST_SUITE_P(Table, ByteCountTest,
                                          CountCase{kGraphUtf8, 1252, 3, 3},
                                          // half-width katakana is one byte in 932
                                          CountCase{"\xEF\xBD\xB6", 932, 1, 1},
-                                         // a character beyond U+FFFF counts two
-                                         CountCase{"\xF0\x9F\x98\x80", 932, 1, 2},
+                                         // a character beyond U+FFFF counts two, and
+                                         // is one "?" per half
+                                         CountCase{"\xF0\x9F\x98\x80", 932, 2, 2},
                                          // invalid bytes count one each
                                          CountCase{"a\xFF\xC3", 1252, 3, 3}));
 
-TEST(CodePageTest, UnmappableAndInvalidBecomeQuestionMarks) {
+TEST(CodePageTest, UnmappableAndInvalidUtf8BecomeQuestionMarks) {
     EXPECT_EQ(toAnsi(kGraphUtf8, 1252), "???");
     EXPECT_EQ(toAnsi("a\xFF"
                      "b",
@@ -61,8 +62,26 @@ TEST(CodePageTest, UnmappableAndInvalidBecomeQuestionMarks) {
     EXPECT_EQ(toAnsi("\xE3\x82", 932), "??");        // truncated sequence
     EXPECT_EQ(toAnsi("\xC0\xAF", 1252), "??");       // overlong form
     EXPECT_EQ(toAnsi("\xED\xA0\x80", 1252), "???");  // encoded surrogate
-    EXPECT_EQ(fromAnsi("\x83", 932), "?");           // lone lead byte
     EXPECT_EQ(fromAnsi("a\x80", 1252), "a\xE2\x82\xAC");
+}
+
+TEST(CodePageTest, CharactersOutsideTheCodePageGetTheirBestFit) {
+    EXPECT_EQ(toAnsi("\xC4\x80\xC5\x90", 1252), "AO");          // U+0100, U+0150
+    EXPECT_EQ(toAnsi("\xEF\xBC\xB0\xCF\x80", 1252), "Pp");      // fullwidth P, pi
+    EXPECT_EQ(toAnsi("\xE2\x91\xA0\xE3\x80\x9C", 1252), "??");  // no fit
+    EXPECT_EQ(toAnsi("\xC2\xA9", 932), "c");                    // copyright sign
+    // Characters other conversion tables put into 932 but the platform does not.
+    EXPECT_EQ(toAnsi("\xE2\x88\x92\xE3\x80\x9C", 932), "??");  // U+2212, U+301C
+    EXPECT_EQ(toAnsi("a\xF0\x9F\x98\x80", 1252), "a??");
+}
+
+TEST(CodePageTest, InvalidDoubleByteCodesBecomeOneUnknownCharacter) {
+    const std::string unknown = "\xE3\x83\xBB";            // U+30FB
+    EXPECT_EQ(fromAnsi("\x83", 932), unknown);             // lone lead byte at the end
+    EXPECT_EQ(fromAnsi("\x88\x34G", 932), unknown + "G");  // the pair is one character
+    EXPECT_EQ(fromAnsi(std::string("\x83\0a", 3), 932), unknown + std::string("\0a", 2));
+    EXPECT_EQ(fromAnsi("\xA0\xFD\xFF", 932), "\xEF\xA3\xB0\xEF\xA3\xB1\xEF\xA3\xB3");
+    EXPECT_EQ(fromAnsi("\x80", 932), "\xC2\x80");
 }
 
 TEST(CodePageTest, Every1252ByteSurvivesARoundTripAndUnknownPagesAre1252) {
@@ -87,7 +106,7 @@ TEST(CodePageTest, SlotsAreFilledAndCutByWholeCharacters) {
     EXPECT_EQ(characterCount(cut), 64u);
     EXPECT_EQ(ansiByteCount(cut, 932), 128u);
     EXPECT_EQ(cutAnsi("a" + kGraphUtf8, 4, 932), "a\xE3\x82\xB0");
-    EXPECT_EQ(keepAnsiBytes(kGraphUtf8, 3, 932), "\xE3\x82\xB0?");
+    EXPECT_EQ(keepAnsiBytes(kGraphUtf8, 3, 932), "\xE3\x82\xB0\xE3\x83\xBB");
     EXPECT_EQ(leftCharacters(kGraphUtf8, 2), "\xE3\x82\xB0\xE3\x83\xA9");
     EXPECT_EQ(leftCharacters("a\xF0\x9F\x98\x80"
                              "b",

@@ -21,15 +21,20 @@ TEST_P(DoubleToTextTest, MatchesPlatformText) {
 
 INSTANTIATE_TEST_SUITE_P(
     Table, DoubleToTextTest,
-    testing::Values(
-        DoubleCase{5.6789E-11, "0.000000000056789"}, DoubleCase{5.6789E-12, "5.6789E-12"},
-        DoubleCase{1E-15, "1E-15"}, DoubleCase{999999999999999.0, "999999999999999"},
-        DoubleCase{1E+15, "1E+15"}, DoubleCase{M_PI, "3.14159265358979"},
-        DoubleCase{0.1 + 0.2, "0.3"}, DoubleCase{-0.0, "0"}, DoubleCase{-1.5E-100, "-1.5E-100"},
-        DoubleCase{1.005, "1.005"}, DoubleCase{-std::numeric_limits<double>::infinity(), "-1.#INF"},
-        DoubleCase{std::numeric_limits<double>::quiet_NaN(), "1.#QNAN"},
-        DoubleCase{std::numeric_limits<double>::max(), "1.79769313486232E+308"},
-        DoubleCase{std::numeric_limits<double>::denorm_min(), "4.94065645841247E-324"}));
+    testing::Values(DoubleCase{5.6789E-11, "5.6789E-11"}, DoubleCase{5.6789E-12, "5.6789E-12"},
+                    // below 1E-04 the exponent form is used however few the digits
+                    DoubleCase{0.0001, "0.0001"}, DoubleCase{0.00013912, "0.00013912"},
+                    DoubleCase{0.00001, "1E-05"}, DoubleCase{0.000025, "2.5E-05"},
+                    DoubleCase{0.0000000123456, "1.23456E-08"}, DoubleCase{-0.00001, "-1E-05"},
+                    DoubleCase{1E-15, "1E-15"}, DoubleCase{999999999999999.0, "999999999999999"},
+                    DoubleCase{1E+15, "1E+15"}, DoubleCase{M_PI, "3.14159265358979"},
+                    DoubleCase{0.1 + 0.2, "0.3"}, DoubleCase{-0.0, "0"},
+                    DoubleCase{-1.5E-100, "-1.5E-100"}, DoubleCase{1.005, "1.005"},
+                    DoubleCase{-std::numeric_limits<double>::infinity(), "-1.#INF"},
+                    DoubleCase{std::numeric_limits<double>::quiet_NaN(), "1.#QNAN"},
+                    DoubleCase{std::numeric_limits<double>::max(), "1.79769313486232E+308"},
+                    DoubleCase{std::numeric_limits<double>::denorm_min(),
+                               "4.94065645841247E-324"}));
 
 struct SingleCase {
     float value;
@@ -42,14 +47,14 @@ TEST_P(SingleToTextTest, MatchesPlatformText) {
     EXPECT_EQ(singleToText(GetParam().value, HostLocale{}), GetParam().text);
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, SingleToTextTest,
-                         testing::Values(SingleCase{3.14159265f, "3.141593"},
-                                         SingleCase{654322.23456f, "654322.3"},
-                                         SingleCase{1E+08f, "1E+08"},
-                                         SingleCase{12345678.0f, "1.234568E+07"},
-                                         SingleCase{0.1f, "0.1"}, SingleCase{-0.0f, "0"},
-                                         // exact binary ties round away from zero
-                                         SingleCase{-12345685.0f, "-1.234569E+07"}));
+INSTANTIATE_TEST_SUITE_P(
+    Table, SingleToTextTest,
+    testing::Values(SingleCase{3.14159265f, "3.141593"}, SingleCase{654322.23456f, "654322.3"},
+                    SingleCase{1E+08f, "1E+08"}, SingleCase{12345678.0f, "1.234568E+07"},
+                    SingleCase{0.1f, "0.1"}, SingleCase{-0.0f, "0"}, SingleCase{0.00001f, "1E-05"},
+                    SingleCase{0.0001f, "0.0001"}, SingleCase{0.000005f, "5E-06"},
+                    // exact binary ties round away from zero
+                    SingleCase{-12345685.0f, "-1.234569E+07"}));
 
 TEST(NumberTextTest, UsesTheLocaleDecimalSeparator) {
     HostLocale spanish;

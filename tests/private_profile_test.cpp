@@ -79,8 +79,12 @@ const char* const kReadFile =
     "k=spaced\r"
     "[Main]\n\r"
     "Later=1\r\n"
-    "[a]b]\r\n"
-    "k=ab\r\n";
+    "[a]b] tail\r\n"
+    "k=ab\r\n"
+    "[Open\r\n"
+    "inOpen=1\r\n"
+    "[]\r\n"
+    "e=4\r\n";
 
 struct ReadCase {
     const char* section;
@@ -111,10 +115,15 @@ INSTANTIATE_TEST_SUITE_P(
                       ReadCase{"Main", ";Commented", "dflt"},  // comment line
                       ReadCase{"Main", "120,0,5,-312,4000,0,0", "dflt"},  // line without '='
                       ReadCase{"Main", "dup", "first"},                   // first key wins
-                      ReadCase{"Main", "Later", "dflt"},      // second [Main] is never searched
-                      ReadCase{"Spaced", "k", "spaced"},      // header trimmed; LF and CR end lines
-                      ReadCase{"a", "k", "ab"},               // name ends at the first ']'
-                      ReadCase{"", "orphan", "dflt"},         // lines before the first header
+                      ReadCase{"Main", "Later", "dflt"},  // second [Main] is never searched
+                      ReadCase{"Spaced", "k", "spaced"},  // header trimmed; LF and CR end lines
+                      ReadCase{"a]b", "k", "ab"},         // name ends at the last ']'
+                      ReadCase{"a", "k", "dflt"},
+                      ReadCase{"Open", "inOpen", "dflt"},     // an unclosed header opens nothing
+                      ReadCase{"a]b", "inOpen", "1"},         // ...its lines stay where they are
+                      ReadCase{"a]b", "[Open", "dflt"},       // ...and it is no key
+                      ReadCase{"", "orphan", "1"},            // lines before the first header
+                      ReadCase{"", "e", "dflt"},              // "[]" is hidden behind them
                       ReadCase{"Missing", "Speed", "dflt"},   // missing section
                       ReadCase{"Main", "Missing", "dflt"}));  // missing key
 
@@ -187,6 +196,28 @@ TEST_F(ProfileFileTest, NullSectionListsSectionsNullKeyListsKeysOfTheFirstSectio
     EXPECT_EQ(returned, 13u);
     EXPECT_EQ(get("s", nullptr), std::string("name1\0name2\0NAME1\0", 18));
     EXPECT_EQ(get("none", nullptr), "dflt");
+    EXPECT_EQ(get("", nullptr), std::string("x\0", 2));
+}
+
+TEST_F(ProfileFileTest, EmptyKeyListGivesTheDefaultWithItsTrailingBlanks) {
+    put("[U]\r\nKey\r\n;c=1\r\n[S]\r\nk=1\r\n");
+    uint32_t returned = 0;
+    EXPECT_EQ(get("U", nullptr, "def  ", &returned), "def  ");
+    EXPECT_EQ(returned, 5u);
+    EXPECT_EQ(get("Missing", nullptr, "def  "), "def  ");
+    EXPECT_EQ(get("U", "Key", "def  "), "def");  // a lookup still trims
+    // A buffer of two bytes holds no name: the default takes its place.
+    char buffer[4] = "xxx";
+    EXPECT_EQ(GetPrivateProfileStringA("S", nullptr, "d", buffer, 2, file_.c_str()), 1u);
+    EXPECT_STREQ(buffer, "d");
+    EXPECT_EQ(GetPrivateProfileStringA("S", nullptr, "d", buffer, 3, file_.c_str()), 1u);
+    EXPECT_EQ(std::string(buffer, 3), std::string("k\0\0", 3));
+}
+
+TEST_F(ProfileFileTest, EmptyHeaderIsNeverListedNorSearched) {
+    put("[]\r\ne=4\r\n");
+    EXPECT_EQ(get("", "e"), "dflt");
+    EXPECT_EQ(get(nullptr, nullptr), "");
 }
 
 struct ListCase {
@@ -295,6 +326,32 @@ TEST_F(ProfileFileTest, WritesThatCannotHappenCreateOrChangeNothing) {
     put("[A]\na=1");
     EXPECT_FALSE(WritePrivateProfileStringA(nullptr, "a", "2", file_.c_str()));
     EXPECT_EQ(bytes(), "[A]\na=1");
+}
+
+TEST_F(ProfileFileTest, ListingAndDeletingMatchTheSectionNameAsGiven) {
+    put("[S]\r\na=1\r\n=x\r\nb=2\r\n");
+    EXPECT_EQ(get("S", nullptr), std::string("a\0\0b\0", 5));  // an empty name is listed
+    EXPECT_EQ(get(" S ", nullptr), "dflt");                    // no blanks removed here
+    EXPECT_EQ(get(" S ", "a"), "1");                           // but for a lookup they are
+    EXPECT_TRUE(WritePrivateProfileStringA(" S ", nullptr, nullptr, file_.c_str()));
+    EXPECT_TRUE(WritePrivateProfileStringA("S", " a ", nullptr, file_.c_str()));
+    EXPECT_EQ(bytes(), "[S]\r\na=1\r\n=x\r\nb=2\r\n");
+    EXPECT_TRUE(WritePrivateProfileStringA("S", "a", nullptr, file_.c_str()));
+    EXPECT_EQ(bytes(), "[S]\r\n=x\r\nb=2\r\n");
+    // A list that starts with an empty name gives the default.
+    EXPECT_EQ(get("S", nullptr), "dflt");
+    // Empty names in a row (blank lines between them or not) are one entry; any other line
+    // between them keeps them apart.
+    put("[S]\r\nx=1\r\n=a\r\n\r\n=b\r\ny=2\r\n=c\r\n;c\r\n=d\r\n");
+    EXPECT_EQ(get("S", nullptr), std::string("x\0\0y\0\0\0", 7));
+}
+
+TEST_F(ProfileFileTest, WritingTheNameOfALineWithoutEqualsSignTakesThatLine) {
+    put("[S]\r\nKey\r\nb=2\r\n");
+    EXPECT_EQ(get("S", "Key"), "dflt");
+    EXPECT_TRUE(WritePrivateProfileStringA("S", "key", "v", file_.c_str()));
+    EXPECT_EQ(bytes(), "[S]\r\nKey=v\r\nb=2\r\n");
+    EXPECT_EQ(get("S", "KEY"), "v");
 }
 
 // ---------------------------------------------------------------------------------------------

@@ -1,12 +1,18 @@
 #!/bin/sh
 # Installs what is missing (as root, with apt-get), configures and builds ztgraph.
-# Usage: tools/setup.sh [build-dir] [extra cmake options...]
+# Usage: tools/setup.sh [--wine] [build-dir] [extra cmake options...]
+# --wine also installs Wine and the mingw-w64 cross compiler for the differential suite.
 set -eu
 cd "$(dirname "$0")/.."
+wine=""
+if [ "${1:-}" = "--wine" ]; then
+    wine="wine wine64 mingw-w64"
+    shift
+fi
 build=${1:-build}
 [ $# -gt 0 ] && shift
 
-packages="cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev clang-format"
+packages="cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev clang-format $wine"
 missing=""
 for p in $packages; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing="$missing $p"

@@ -17,17 +17,20 @@ namespace zt::profile {
 // plus a NUL) and returns the number of bytes copied without the NUL. Size 0 leaves the buffer
 // untouched and returns 0.
 // - Missing file, section or key: `defaultValue` with trailing spaces removed (NULL = "").
-// - `key` NULL: the key names of the first matching section, each followed by a NUL, plus a
-//   final NUL; an empty list gives the default. `section` NULL: all section names likewise
-//   (a missing file gives an empty list). A list that does not fit is cut to size-2 bytes
+// - `key` NULL: the key names of the first section named exactly `section` (no blanks
+//   removed), each followed by a NUL, plus a final NUL; an empty list, one that starts with an
+//   empty name or one cut to nothing gives the default untrimmed. `section`
+//   NULL: all section names likewise (a missing file gives an empty list). Lines before the
+//   first header are the keys of section "". A list that does not fit is cut to size-2 bytes
 //   followed by two NULs and size-2 is returned.
 uint32_t GetPrivateProfileStringA(const char* section, const char* key, const char* defaultValue,
                                   char* buffer, uint32_t size, const char* fileName);
 
 // Sets `key` in `section` to `value` verbatim, creating the key, section or file as needed.
 // `value` NULL deletes the key's line; `key` NULL deletes the section header and its key lines
-// (its comments stay). False when `section` or `fileName` is NULL or empty, or the file
-// cannot be read or written (for example a missing folder).
+// (its comments stay). Deleting matches the names as given, blanks included. False when `section`
+// or `fileName` is NULL or empty, or the file cannot be read or written (for example a missing
+// folder).
 bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
                                 const char* fileName);
 

@@ -20,12 +20,13 @@ constexpr std::size_t kValueLengthWrap = 65536;
 enum class Lookup { Found, NotFound, NoFile };
 
 // Finds the first `key` in the first section named `section`. Lines before the first header
-// belong to no section; a later section of the same name is never searched.
+// form a section named "" that always comes first, so a "[]" header is never searched; nor is
+// any later section of the same name.
 Lookup lookupValue(std::string_view section, std::string_view key, const char* fileName,
                    std::string& value) {
     ProfileLineReader reader(fileName);
     if (!reader.isOpen()) return Lookup::NoFile;
-    bool inSection = false;
+    bool inSection = section.empty();
     std::string_view line;
     while (reader.next(line)) {
         if (!inSection && !isSectionLine(line)) continue;
@@ -61,11 +62,15 @@ bool listSections(const char* fileName, std::string& list) {
     return true;
 }
 
-// Appends the key names of the first section named `section`, duplicates included, each
-// followed by a NUL. Lines without '=' are not keys and are left out.
+// Appends the key names of the first section named `section` (the lines before the first
+// header for ""), duplicates included, each followed by a NUL; a key line with an empty name
+// gives an empty entry. Lines without '=' and comments are not keys and are left out.
 void listKeys(std::string_view section, const char* fileName, std::string& list) {
     ProfileLineReader reader(fileName);
-    bool inSection = false;
+    bool inSection = section.empty();
+    // Consecutive key lines with an empty name (blank lines between them do not count) give
+    // one empty entry.
+    bool afterEmptyName = false;
     std::string_view line;
     while (reader.next(line)) {
         if (!inSection && !isSectionLine(line)) continue;
@@ -73,9 +78,13 @@ void listKeys(std::string_view section, const char* fileName, std::string& list)
         if (parsed.kind == LineKind::Section) {
             if (inSection) return;
             inSection = equalsIgnoreCase(parsed.name, section);
-        } else if (inSection && parsed.kind == LineKind::Key && !parsed.name.empty()) {
-            list.append(parsed.name);
-            list.push_back('\0');
+        } else if (inSection && parsed.kind != LineKind::Blank) {
+            const bool emptyName = parsed.kind == LineKind::Key && parsed.name.empty();
+            if (parsed.kind == LineKind::Key && !(emptyName && afterEmptyName)) {
+                list.append(parsed.name);
+                list.push_back('\0');
+            }
+            afterEmptyName = emptyName;
         }
     }
 }
@@ -129,9 +138,13 @@ uint32_t GetPrivateProfileStringA(const char* section, const char* key, const ch
     }
     const std::string_view sectionName = trimSpaces(section);
     if (key == nullptr) {
+        // The key list matches the section name as given, blanks included. A list that is
+        // empty, starts with an empty name or does not fit even one byte gives the default as
+        // it stands, trailing blanks included.
         std::string list;
-        if (haveFile) listKeys(sectionName, fileName, list);
-        if (list.empty()) return copyDefault(defaultValue, buffer, size);
+        if (haveFile) listKeys(section, fileName, list);
+        if (list.empty() || list.front() == '\0' || size <= 2)
+            return copyText(defaultValue != nullptr ? defaultValue : "", buffer, size);
         return copyList(list, buffer, size);
     }
     std::string value;

@@ -51,6 +51,17 @@ SectionLayout locate(std::string_view text, std::string_view section, std::strin
                 layout.keyNext = span.next;
                 layout.keyName = parsed.name;
             }
+        } else if (inSection && parsed.kind == LineKind::Other && wantKey &&
+                   layout.keyBegin == kNone) {
+            // A line without '=' is a key without a value: reading it gives the default, but
+            // writing or deleting its name takes that line. New keys still go before such
+            // lines (the data tables of a graph file stay after its keys).
+            const std::string_view name = trimBlanks(text.substr(pos, span.contentEnd - pos));
+            if (equalsIgnoreCase(name, key)) {
+                layout.keyBegin = pos;
+                layout.keyNext = span.next;
+                layout.keyName = name;
+            }
         }
         pos = span.next;
     }
@@ -108,13 +119,15 @@ bool WritePrivateProfileStringA(const char* section, const char* key, const char
     }
     const std::string_view text = content;
 
-    if (key == nullptr) return deleteSection(fileName, text, sectionName);
+    // Deleting a section matches its name as given, blanks included, as listing its keys does.
+    if (key == nullptr) return deleteSection(fileName, text, section);
 
     const SectionLayout layout = locate(text, sectionName, keyName, true);
     if (value == nullptr) {
-        if (layout.keyBegin == kNone) return true;
-        return replaceFile(fileName,
-                           {text.substr(0, layout.keyBegin), text.substr(layout.keyNext)});
+        // Deleting a key matches the section and key names as given, blanks included.
+        const SectionLayout exact = locate(text, section, key, true);
+        if (exact.keyBegin == kNone) return true;
+        return replaceFile(fileName, {text.substr(0, exact.keyBegin), text.substr(exact.keyNext)});
     }
     if (layout.keyBegin != kNone) {
         // The line is rewritten with the file's spelling of the key and a CR LF.

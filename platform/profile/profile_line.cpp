@@ -86,10 +86,11 @@ ProfileLine parseLine(std::string_view line) {
     const std::string_view text = line.substr(first);
     if (text.front() == ';') return {LineKind::Comment, {}, {}};
     if (text.front() == '[') {
-        // The name runs to the first ']' or to the end of the line; anything after is ignored.
-        const std::string_view inner = text.substr(1);
-        const std::size_t close = inner.find(']');
-        return {LineKind::Section, trimBlanks(inner.substr(0, close)), {}};
+        // The name runs to the last ']' ("[x]]" is "x]"); anything after it is ignored. A
+        // header that is never closed names no section and is not a key either.
+        const std::size_t close = text.rfind(']');
+        if (close == 0 || close == std::string_view::npos) return {LineKind::Other, {}, {}};
+        return {LineKind::Section, trimBlanks(text.substr(1, close - 1)), {}};
     }
     const std::size_t eq = text.find('=');
     if (eq == std::string_view::npos) return {LineKind::Other, {}, {}};

@@ -20,7 +20,7 @@ LineSpan splitLine(std::string_view text, std::size_t pos);
 enum class LineKind {
     Blank,    // nothing but blanks
     Comment,  // first non-blank character is ';'
-    Section,  // first non-blank character is '['
+    Section,  // first non-blank character is '[', closed by a later ']'
     Key,      // any other line holding '='
     Other,    // any other line: not reachable as a key (data lines, for example)
 };
@@ -32,7 +32,7 @@ struct ProfileLine {
 };
 
 // True when the first non-blank character of `line` is '[': a cheap test that lets a scan
-// skip the lines of sections it is not interested in.
+// skip the lines of sections it is not interested in (an unclosed header passes it too).
 bool isSectionLine(std::string_view line);
 
 // Classifies one line (without its line end) the way the Windows profile reader does.

@@ -1,7 +1,11 @@
 #include "platform/text/code_page.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <utility>
+
+#include "platform/text/best_fit.h"
 
 namespace zt::text {
 
@@ -73,6 +77,28 @@ void forEachCharacter(std::string_view text, Visit visit) {
     }
 }
 
+// The code point of the well-formed sequence of `length` bytes at the start of `text`.
+uint32_t codePointOf(std::string_view text, std::size_t length) {
+    auto byte = [&](std::size_t i) {
+        return static_cast<uint32_t>(static_cast<unsigned char>(text[i]));
+    };
+    switch (length) {
+        case 1:
+            return byte(0);
+        case 2:
+            return ((byte(0) & 0x1F) << 6) | (byte(1) & 0x3F);
+        case 3:
+            return ((byte(0) & 0x0F) << 12) | ((byte(1) & 0x3F) << 6) | (byte(2) & 0x3F);
+        default:
+            return ((byte(0) & 0x07) << 18) | ((byte(1) & 0x3F) << 12) | ((byte(2) & 0x3F) << 6) |
+                   (byte(3) & 0x3F);
+    }
+}
+
+bool isLead932(unsigned char byte) {
+    return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
+}
+
 bool isUnassigned1252(unsigned char byte) {
     return byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 || byte == 0x9D;
 }
@@ -124,32 +150,75 @@ std::string AnsiCodec::toAnsi(std::string_view utf8) {
     std::string clean = sanitizeUtf8(utf8);
     if (!toAnsi_.valid()) return clean;
     const bool is1252 = codePage_ == 1252;
-    // The input is well formed, so iconv stops only at a character the code page lacks.
-    return convert(toAnsi_.get(), clean, [is1252](std::string_view rest, std::string& out) {
+    // The input is well formed, so iconv stops only at a character the code page lacks. Such
+    // a character gets its best fit, or one "?" per UTF-16 unit.
+    const int codePage = codePage_;
+    auto unmapped = [is1252, codePage](std::string_view rest, std::string& out) {
         std::size_t length = utf8SequenceLength(rest);
         if (is1252 && length == 2 && static_cast<unsigned char>(rest[0]) == 0xC2 &&
             isUnassigned1252(static_cast<unsigned char>(rest[1]))) {
             out += rest[1];
+        } else if (const BestFit* fit =
+                       length == 2 || length == 3
+                           ? bestFit(codePage, static_cast<char16_t>(codePointOf(rest, length)))
+                           : nullptr) {
+            out += static_cast<char>(fit->first);
+            if (fit->second != 0) out += static_cast<char>(fit->second);
         } else {
-            out += '?';
+            out += length == 4 ? "??" : "?";
         }
         return length;
-    });
+    };
+    // Characters whose best fit overrides what iconv would write go through `unmapped`
+    // directly; runs of the others go through iconv.
+    std::string out;
+    std::size_t runStart = 0;
+    std::size_t pos = 0;
+    while (pos < clean.size()) {
+        const std::size_t length = utf8SequenceLength(std::string_view(clean).substr(pos));
+        const bool overridden =
+            (length == 2 || length == 3) &&
+            bestFit(codePage, static_cast<char16_t>(codePointOf(std::string_view(clean).substr(pos),
+                                                                length))) != nullptr;
+        if (overridden) {
+            out += convert(toAnsi_.get(), std::string_view(clean).substr(runStart, pos - runStart),
+                           unmapped);
+            unmapped(std::string_view(clean).substr(pos), out);
+            runStart = pos + length;
+        }
+        pos += length;
+    }
+    out += convert(toAnsi_.get(), std::string_view(clean).substr(runStart), unmapped);
+    return out;
 }
 
 std::string AnsiCodec::fromAnsi(std::string_view bytes) {
     if (!fromAnsi_.valid()) return sanitizeUtf8(bytes);
     const bool is1252 = codePage_ == 1252;
-    return convert(fromAnsi_.get(), bytes, [is1252](std::string_view rest, std::string& out) {
-        unsigned char byte = static_cast<unsigned char>(rest[0]);
-        if (is1252 && isUnassigned1252(byte)) {
-            out += '\xC2';
-            out += static_cast<char>(byte);
-        } else {
-            out += '?';
-        }
-        return std::size_t{1};
-    });
+    const bool is932 = codePage_ == 932;
+    return convert(
+        fromAnsi_.get(), bytes, [is1252, is932](std::string_view rest, std::string& out) {
+            unsigned char byte = static_cast<unsigned char>(rest[0]);
+            if (is1252 && isUnassigned1252(byte)) {
+                out += '\xC2';
+                out += static_cast<char>(byte);
+            } else if (is932 && isLead932(byte)) {
+                // A lead byte without a valid second byte: the pair (or the lone
+                // lead byte before a NUL or the end) is one unknown character, U+30FB.
+                out += "\xE3\x83\xBB";
+                return rest.size() >= 2 && rest[1] != '\0' ? std::size_t{2} : std::size_t{1};
+            } else if (is932 && byte == 0x80) {
+                out += "\xC2\x80";
+            } else if (is932 && (byte == 0xA0 || byte >= 0xFD)) {
+                // The four single bytes without a character map to private-use
+                // U+F8F0..U+F8F3.
+                out += "\xEF\xA3";
+                out += static_cast<char>(byte == 0xA0 ? 0xB0 : 0xB1 + (byte - 0xFD));
+            } else {
+                out += '?';
+            }
+            return std::size_t{1};
+        });
 }
 
 std::string toAnsi(std::string_view utf8, int codePage) {

@@ -32,8 +32,11 @@ class IconvDescriptor {
 std::string codePageName(int codePage);
 
 // Converter for one ANSI code page. A code page iconv does not know falls back to 1252.
-// Characters the code page cannot hold, and invalid bytes on either side, become "?". In code
-// page 1252 the five bytes without a character (0x81, 0x8D, 0x8F, 0x90, 0x9D) map to the
+// Characters the code page cannot hold get the platform's best fit in 1252 and 932 ("\u0100"
+// is "A") or else "?" (one per UTF-16 unit); invalid UTF-8 bytes become "?". In 932 a lead
+// byte without a valid second byte makes the pair one U+30FB, and the four single bytes
+// without a character (0xA0, 0xFD-0xFF) map to U+F8F0-U+F8F3; other invalid bytes become "?". In
+// code page 1252 the five bytes without a character (0x81, 0x8D, 0x8F, 0x90, 0x9D) map to the
 // control characters of the same number and back, so that any byte survives a round trip.
 class AnsiCodec {
   public:
@@ -77,7 +80,7 @@ std::string fitAnsi(std::string_view utf8, std::size_t bytes, int codePage);
 std::string cutAnsi(std::string_view utf8, std::size_t bytes, int codePage);
 
 // The text after a round trip through its ANSI form cut to at most `bytes` bytes. A
-// double-byte character split by the cut becomes "?".
+// double-byte character split by the cut becomes U+30FB.
 std::string keepAnsiBytes(std::string_view utf8, std::size_t bytes, int codePage);
 
 }  // namespace zt::text

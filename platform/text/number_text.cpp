@@ -77,14 +77,9 @@ std::string numberText(double value, int precision, const std::string& decimalSe
     const int e = sd.exponent;
     const int afterPoint = static_cast<int>(d.size()) - 1;
 
-    bool plain;
-    if (e >= precision) {
-        plain = false;
-    } else if (e >= -4) {
-        plain = true;
-    } else {
-        plain = -e + std::max(afterPoint - 1, 0) < precision;
-    }
+    // Plain digits from 1E-04 up to the precision's power of ten; the exponent form outside,
+    // however few the digits (0.0001, but 1E-05).
+    const bool plain = e >= -4 && e < precision;
 
     std::string text = sd.negative ? "-" : "";
     if (!plain) {

@@ -25,9 +25,9 @@ inline constexpr int kDoubleDigits = 15;
 SignificantDigits significantDigits(double value, int precision);
 
 // Text of a double with up to 15 significant digits: trailing zeros and a trailing separator
-// dropped, no grouping, no "+"; the exponent form (1E-15, 1.5E+20) when the decimal exponent is
-// 15 or more, or when a small number does not fit in 15 decimals; the locale's decimal
-// separator; "-0" becomes "0". Infinities give "1.#INF" / "-1.#INF", NaN gives "1.#QNAN".
+// dropped, no grouping, no "+"; the exponent form (1E-05, 1.5E+20) when the decimal exponent is
+// 15 or more or below -4, whatever the digit count; the locale's decimal separator; "-0"
+// becomes "0". Infinities give "1.#INF" / "-1.#INF", NaN gives "1.#QNAN".
 std::string doubleToText(double value, const HostLocale& locale);
 // The same for a single: up to 7 significant digits.
 std::string singleToText(float value, const HostLocale& locale);
