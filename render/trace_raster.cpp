@@ -31,13 +31,6 @@ void fillColumns(const PixelView& view, int x0, int x1, int y0, int y1, uint32_t
 
 }  // namespace
 
-int ColumnGeometry::column(double t) const {
-    const double x = xFrom + (t - timeFrom) * ((xTo - xFrom) / (timeTo - timeFrom));
-    if (!(x >= columnFrom)) return columnFrom;
-    if (!(x < columnTo)) return columnTo - 1;
-    return std::clamp(static_cast<int>(std::floor(x)), columnFrom, columnTo - 1);
-}
-
 void ColumnRange::add(const ColumnRange& other) {
     if (other.empty()) return;
     if (empty()) {
@@ -54,6 +47,10 @@ void ColumnTrace::reset(const ColumnGeometry& geometry, bool step) {
     sorted_ = true;
     columns_.assign(static_cast<size_t>(std::max(geometry.columnTo - geometry.columnFrom, 0)),
                     Column{});
+    perTime_ = (geometry.xTo - geometry.xFrom) / (geometry.timeTo - geometry.timeFrom);
+    if (!std::isfinite(perTime_)) perTime_ = 0;
+    offset_ = geometry.xFrom - geometry.columnFrom;
+    lastX_ = std::max(static_cast<double>(columns_.size()) - 1, 0.0);
     times_ = nullptr;
     values_ = nullptr;
     consumed_ = 0;
@@ -82,18 +79,29 @@ ColumnRange ColumnTrace::extend(const double* times, const double* values, int c
     const int oldAfter = after_;
     const double from = geometry_.timeFrom;
     const double to = geometry_.timeTo;
+    // The column being filled is held in `open` until the samples move on to another one.
+    Column open;
+    int openAt = geometry_.columnFrom - 1;
+    const auto close = [&] {
+        if (openAt >= geometry_.columnFrom) *columnAt(openAt) = open;
+    };
     for (int i = consumed_; i < count; ++i) {
         const double v = values[i];
         if (!std::isfinite(v)) continue;
         const double t = times[i];
         if (t >= from && t <= to) {
-            Column& c = *columnAt(geometry_.column(t));
-            if (c.any) {
-                c.last = v;
-                c.low = std::min(c.low, v);
-                c.high = std::max(c.high, v);
+            const int c = columnOf(t);
+            if (c != openAt) {
+                close();
+                openAt = c;
+                open = *columnAt(c);
+            }
+            if (open.any) {
+                open.last = v;
+                open.low = std::min(open.low, v);
+                open.high = std::max(open.high, v);
             } else {
-                c = Column{v, v, v, v, true};
+                open = Column{v, v, v, v, true};
             }
             if (firstIn_ < 0) firstIn_ = i;
             lastIn_ = i;
@@ -106,29 +114,31 @@ ColumnRange ColumnTrace::extend(const double* times, const double* values, int c
             after_ = i;
         }
     }
+    close();
     consumed_ = count;
     if (!sorted_) return all;
 
     ColumnRange changed;
-    const auto columnOf = [&](int i) { return geometry_.column(times[i]); };
+    const auto columnAtSample = [&](int i) { return columnOf(times[i]); };
     // The stretch from the left end to the first sample inside.
     if (before_ != oldBefore || firstIn_ != oldFirst || (firstIn_ < 0 && after_ != oldAfter)) {
-        changed.add({geometry_.columnFrom, firstIn_ >= 0 ? columnOf(firstIn_) : all.last});
+        changed.add({geometry_.columnFrom, firstIn_ >= 0 ? columnAtSample(firstIn_) : all.last});
     }
     // New samples inside, joined to the previous last one.
     if (lastIn_ != oldLast) {
-        changed.add({oldLast >= 0 ? columnOf(oldLast) : geometry_.columnFrom, columnOf(lastIn_)});
+        changed.add({oldLast >= 0 ? columnAtSample(oldLast) : geometry_.columnFrom,
+                     columnAtSample(lastIn_)});
     }
     // The stretch from the last sample inside to the right end.
     if (after_ != oldAfter) {
-        changed.add({lastIn_ >= 0 ? columnOf(lastIn_) : geometry_.columnFrom, all.last});
+        changed.add({lastIn_ >= 0 ? columnAtSample(lastIn_) : geometry_.columnFrom, all.last});
     }
     return changed;
 }
 
 int ColumnTrace::spannedColumns() const {
     if (firstIn_ < 0 || !sorted_) return static_cast<int>(columns_.size());
-    return geometry_.column(times_[lastIn_]) - geometry_.column(times_[firstIn_]) + 1;
+    return columnOf(times_[lastIn_]) - columnOf(times_[firstIn_]) + 1;
 }
 
 bool ColumnTrace::edgeValue(bool left, double& v) const {
@@ -227,6 +237,7 @@ void rasterTrace(const PixelView& view, const ColumnTrace& trace, const RasterSt
     };
 
     std::vector<ColumnTrace::Entry> entries;
+    entries.reserve(static_cast<size_t>(right - left + 3));
     trace.entries({left - padRight, right + padLeft}, entries);
     const ColumnTrace::Entry* prev = nullptr;
     for (size_t k = 0; k < entries.size(); ++k) {

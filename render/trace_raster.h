@@ -29,8 +29,6 @@ struct ColumnGeometry {
     int columnTo = 0;
 
     bool operator==(const ColumnGeometry&) const = default;
-    // The device column a time falls into, limited to the axis' columns.
-    int column(double t) const;
 };
 
 // Device columns first … last, both included; empty when last < first.
@@ -81,6 +79,13 @@ class ColumnTrace {
     // either side, in column order.
     void entries(ColumnRange range, std::vector<Entry>& out) const;
 
+    // The device column a time falls into, limited to the axis' columns.
+    int columnOf(double t) const {
+        const double x = (t - geometry_.timeFrom) * perTime_ + offset_;
+        // Truncation of a value >= 0 is its floor; NaN lands in the first column.
+        return geometry_.columnFrom + static_cast<int>(x >= 0 ? (x < lastX_ ? x : lastX_) : 0.0);
+    }
+
   private:
     bool edgeValue(bool left, double& v) const;
     Column* columnAt(int c) { return &columns_[static_cast<size_t>(c - geometry_.columnFrom)]; }
@@ -90,6 +95,9 @@ class ColumnTrace {
     bool entryAt(int c, Entry& e) const;
 
     ColumnGeometry geometry_;
+    double perTime_ = 0;  // device pixels per unit of time
+    double offset_ = 0;   // device x of the axis' minimum from the first column's left edge
+    double lastX_ = 0;    // the last column's left edge, counted the same way
     bool step_ = false;
     bool sorted_ = true;
     std::vector<Column> columns_;
