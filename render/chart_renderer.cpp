@@ -151,7 +151,8 @@ class SeriesTrace {
             count_ = s.pointCount();
             const Mode before = mode_;
             chooseMode(*time);
-            if (mode_ != before && !rebuild) changed = all;
+            // A trace drawn as vector paths has no columns to say where it changed.
+            if (mode_ != before || mode_ == Mode::Vector) changed = all;
         }
         return changed;
     }

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -145,17 +146,14 @@ class RendererRedraw : public ::testing::TestWithParam<int> {
         ASSERT_EQ(kept.width, fresh.width);
         ASSERT_EQ(kept.height, fresh.height);
         long differing = 0;
-        int firstX = -1, firstY = -1;
-        for (int y = 0; y < fresh.height; ++y) {
-            for (int x = 0; x < fresh.width; ++x) {
-                if (!near(kept.at(x, y), fresh.at(x, y))) {
-                    if (differing++ == 0) {
-                        firstX = x;
-                        firstY = y;
-                    }
-                }
+        size_t first = 0;
+        for (size_t i = 0; i < fresh.pixels.size(); ++i) {
+            if (kept.pixels[i] != fresh.pixels[i] && !near(kept.pixels[i], fresh.pixels[i])) {
+                if (differing++ == 0) first = i;
             }
         }
+        const int firstX = static_cast<int>(first % static_cast<size_t>(fresh.width));
+        const int firstY = static_cast<int>(first / static_cast<size_t>(fresh.width));
         EXPECT_EQ(differing, 0) << "after " << after << ", first at " << firstX << "," << firstY
                                 << std::hex << " kept " << kept.at(firstX, firstY) << " fresh "
                                 << fresh.at(firstX, firstY);
@@ -215,6 +213,40 @@ TEST_P(RendererRedraw, EveryChangeLooksAsAFreshPicture) {
     expectSameAsFresh("unsorted times");
     root.BackColor = 0x202020;
     expectSameAsFresh("a new background");
+    // A time axis far wider than any picture: drawn as paths, still redrawn on new points.
+    root.Axes["XAxis"].Length = 70000;
+    root.PulseDataCollection["PulseData1"].Visible = false;
+    root.PlotDataCollection["PlotData2"].Visible = false;
+    plot.setPoints(500, wave, times);
+    expectSameAsFresh("a very wide time axis");
+    plot.setPointRange(500, 600, slowWave.data(), times.data());
+    expectSameAsFresh("points added on a very wide time axis");
+}
+
+TEST(ChartRenderer, SeriesTellsAddedPointsFromRewrittenOnes) {
+    ChartRoot root;
+    Series& s = root.PlotDataCollection["PlotData1"];
+    const std::vector<double> v = ramp(100, 1.0);
+    struct Step {
+        std::function<void()> change;
+        bool rewrite;
+    };
+    const std::vector<Step> steps = {
+        {[&] { s.setPointRange(0, 10, v.data(), v.data()); }, false},
+        {[&] { s.setPointRange(10, 30, v.data(), v.data()); }, false},
+        {[&] { s.setPointRange(20, 40, v.data(), v.data()); }, true},
+        {[&] { s.setPointCount(35); }, true},
+        {[&] { s.setPointCount(35); }, false},  // no change at all
+        {[&] { s.setPoints(50, v, v); }, true},
+        {[&] { s.setPointRange(50, 60, v.data(), v.data()); }, false},
+    };
+    for (size_t i = 0; i < steps.size(); ++i) {
+        const uint64_t before = s.revision();
+        steps[i].change();
+        const bool changed = i != 4;
+        EXPECT_EQ(s.revision() > before, changed) << "step " << i;
+        EXPECT_EQ(s.rewriteRevision() > before, steps[i].rewrite) << "step " << i;
+    }
 }
 
 TEST(ChartRenderer, PngReadsBackAsDrawn) {
