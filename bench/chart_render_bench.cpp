@@ -1,5 +1,6 @@
-// Drawing a full chart (8 channels of 10,000 points plus overlays) and switching a series'
-// labels off.
+// Drawing a full chart (8 analog and 8 on/off series of 10,000 points plus overlays, 1000 pixels
+// wide) from scratch, to PNG, and again at screen speed after a reply or a cursor move; and
+// switching a series' labels off.
 #include <benchmark/benchmark.h>
 
 #include <cmath>
@@ -8,6 +9,7 @@
 
 #include "platform/chart/chart_design.h"
 #include "platform/chart/chart_root.h"
+#include "render/chart_renderer.h"
 #include "render/render_chart.h"
 
 namespace {
@@ -22,7 +24,8 @@ std::vector<double> times() {
     return t;
 }
 
-void fill(zt::chart::ChartRoot& root) {
+// The chart's series, each holding the first `points` of its samples.
+void fill(zt::chart::ChartRoot& root, int points = kPoints) {
     root.Axes["XAxis"].Minimum = 0;
     root.Axes["XAxis"].Maximum = 1000;
     for (int c = 0; c < 4; ++c) {
@@ -39,9 +42,9 @@ void fill(zt::chart::ChartRoot& root) {
                 bits[static_cast<size_t>(i)] = (i / (200 * (c + 1))) % 2;
             }
             root.PlotDataCollection[d::kPlotSeriesNames[static_cast<size_t>(g * 4 + c)]].setPoints(
-                kPoints, std::move(v), times());
+                points, std::move(v), times());
             root.PulseDataCollection[d::kPulseSeriesNames[static_cast<size_t>(g * 4 + c)]]
-                .setPoints(kPoints, std::move(bits), times());
+                .setPoints(points, std::move(bits), times());
         }
     }
     root.PlotDataCollection["DummyData"].setPoints(kPoints, std::vector<int16_t>(kPoints, -125),
@@ -71,6 +74,75 @@ void BM_RenderFullChartToPng(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_RenderFullChartToPng)->Unit(benchmark::kMillisecond);
+
+// The whole chart drawn again by a renderer that keeps its buffers, every series changed.
+void BM_RedrawFullChart(benchmark::State& state) {
+    zt::chart::ChartRoot root;
+    fill(root);
+    zt::render::RenderOptions options;
+    options.width = 1000;
+    zt::render::ChartRenderer renderer(root, options);
+    renderer.draw();
+    auto& series = root.PlotDataCollection[d::kPlotSeriesNames[0]];
+    for (auto _ : state) {
+        for (auto* collection : {&root.PlotDataCollection, &root.PulseDataCollection}) {
+            for (int i = 0; i < collection->count(); ++i) {
+                auto& s = collection->at(i);
+                s.setPointRange(0, s.pointCount(), s.values(), s.times());
+            }
+        }
+        benchmark::DoNotOptimize(renderer.draw().pixels.data());
+    }
+    benchmark::DoNotOptimize(series.pointCount());
+}
+BENCHMARK(BM_RedrawFullChart)->Unit(benchmark::kMillisecond);
+
+// A reply during a capture: 10 more records on every series of a chart holding 9,990, drawn.
+void BM_ReplyOfTenRecordsDrawn(benchmark::State& state) {
+    zt::chart::ChartRoot root;
+    fill(root);
+    std::vector<std::pair<zt::chart::Series*, std::vector<double>>> full;
+    for (auto* collection : {&root.PlotDataCollection, &root.PulseDataCollection}) {
+        for (int i = 0; i < collection->count(); ++i) {
+            auto& s = collection->at(i);
+            full.emplace_back(&s, std::vector<double>(s.values(), s.values() + s.pointCount()));
+        }
+    }
+    const std::vector<double> t = times();
+    zt::render::RenderOptions options;
+    options.width = 1000;
+    zt::render::ChartRenderer renderer(root, options);
+    for (auto _ : state) {
+        state.PauseTiming();
+        for (auto& [s, v] : full)
+            s->setPointCount(kPoints - 10);
+        renderer.draw();
+        state.ResumeTiming();
+        for (auto& [s, v] : full)
+            s->setPointRange(kPoints - 10, kPoints, v.data(), t.data());
+        benchmark::DoNotOptimize(renderer.draw().pixels.data());
+    }
+}
+BENCHMARK(BM_ReplyOfTenRecordsDrawn)->Unit(benchmark::kMicrosecond);
+
+// A cursor dragged over the full chart: moved by a few pixels and drawn.
+void BM_CursorMoveDrawn(benchmark::State& state) {
+    zt::chart::ChartRoot root;
+    fill(root);
+    auto& cursor = root.Cursors[d::kCursorA];
+    cursor.Visible = true;
+    zt::render::RenderOptions options;
+    options.width = 1000;
+    zt::render::ChartRenderer renderer(root, options);
+    renderer.draw();
+    double at = 100;
+    for (auto _ : state) {
+        at = at > 900 ? 100 : at + 3.7;
+        cursor.setPosition(at);
+        benchmark::DoNotOptimize(renderer.draw().pixels.data());
+    }
+}
+BENCHMARK(BM_CursorMoveDrawn)->Unit(benchmark::kMicrosecond);
 
 // Nine labels on, then every label off in one call.
 void BM_LabelsAllOff(benchmark::State& state) {

@@ -212,8 +212,10 @@ struct Mapping {
     }
 };
 
+}  // namespace
+
 // The value range a series is drawn against; false when it cannot be drawn.
-bool valueRange(const Series& s, double& lo, double& hi) {
+bool traceValueRange(const Series& s, double& lo, double& hi) {
     lo = s.axis().Minimum;
     hi = s.axis().Maximum;
     if (std::isfinite(lo) && std::isfinite(hi) && hi > lo) return true;
@@ -226,13 +228,62 @@ bool valueRange(const Series& s, double& lo, double& hi) {
     return false;
 }
 
-bool drawable(const Series& s) {
+bool traceDrawable(const Series& s) {
     return s.Visible && s.LinePen.style != PenStyle::Null && s.pointCount() > 0 && s.area().Visible;
+}
+
+void strokeSamples(cairo_t* cr, const Series& s, const Axis& time, const ReducedTrace& reduced,
+                   bool step, int columns, size_t from, size_t to) {
+    const std::vector<TraceSpan>& spans = reduced.spans;
+    to = std::min(to, spans.size());
+    // Paths are cut every kSpansPerStroke spans counted from the first, so that a part drawn
+    // alone matches the same part of the whole.
+    from -= from % kSpansPerStroke;
+    double lo = 0, hi = 0;
+    if (from >= to || !traceDrawable(s) || !traceValueRange(s, lo, hi)) return;
+    const Area& area = s.area();
+    const Mapping m{time, lo, hi, double(area.Top), double(area.Bottom)};
+    setColor(cr, s.LinePen.color);
+    cairo_set_line_width(cr, std::clamp(s.LinePen.width, 1, 20));
+    cairo_set_line_join(cr, CAIRO_LINE_JOIN_BEVEL);
+    double lastY = 0;
+    for (size_t i = from; i < to; ++i) {
+        const double x = m.x(spans[i].time);
+        const double y = m.y(spans[i].first);
+        if (i == from) {
+            cairo_move_to(cr, x, y);
+        } else {
+            if (step) cairo_line_to(cr, x, lastY);
+            cairo_line_to(cr, x, y);
+            // Short paths rasterise much faster than one path over the whole width.
+            if ((i - from) % kSpansPerStroke == 0) {
+                cairo_stroke(cr);
+                cairo_move_to(cr, x, y);
+            }
+        }
+        lastY = y;
+    }
+    cairo_stroke(cr);
+
+    if (s.PointMarkers.Visible && static_cast<int>(spans.size()) <= columns / 4) {
+        const double size = std::clamp(s.PointMarkers.Size, 1, 40) / 2.0;
+        for (size_t i = from; i < to; ++i) {
+            cairo_rectangle(cr, m.x(spans[i].time) - size / 2, m.y(spans[i].first) - size / 2, size,
+                            size);
+        }
+        cairo_fill(cr);
+    }
+}
+
+void clipToTraceArea(cairo_t* cr, const Series& s, const Axis& time) {
+    const Area& area = s.area();
+    clipTo(cr, std::max(area.Left, time.Left), double(area.Top) - 1, area.Right,
+           double(area.Bottom) + 1);
 }
 
 void paintTrace(cairo_t* cr, const Series& s, const Axis& time, double deviceScale) {
     double lo = 0, hi = 0;
-    if (!drawable(s) || !valueRange(s, lo, hi)) return;
+    if (!traceDrawable(s) || !traceValueRange(s, lo, hi)) return;
     const Area& area = s.area();
     const Mapping m{time, lo, hi, double(area.Top), double(area.Bottom)};
     TraceWindow window;
@@ -246,11 +297,10 @@ void paintTrace(cairo_t* cr, const Series& s, const Axis& time, double deviceSca
     if (spans.empty()) return;
 
     cairo_save(cr);
-    clipTo(cr, std::max(area.Left, time.Left), double(area.Top) - 1, area.Right,
-           double(area.Bottom) + 1);
-    setColor(cr, s.LinePen.color);
-    const double penWidth = std::clamp(s.LinePen.width, 1, 20);
+    clipToTraceArea(cr, s, time);
     if (reduced.perColumn) {
+        setColor(cr, s.LinePen.color);
+        const double penWidth = std::clamp(s.LinePen.width, 1, 20);
         // One filled bar per pixel column from its lowest to its highest value, stretched to
         // meet the previous column's last value: the trace as a person sees it, at a cost of
         // one rectangle per column.
@@ -264,49 +314,22 @@ void paintTrace(cairo_t* cr, const Series& s, const Axis& time, double deviceSca
             lastY = m.y(span.last);
         }
         cairo_fill(cr);
-        cairo_restore(cr);
-        return;
-    }
-    cairo_set_line_width(cr, penWidth);
-    cairo_set_line_join(cr, CAIRO_LINE_JOIN_BEVEL);
-    bool started = false;
-    double lastX = 0;
-    double lastY = 0;
-    size_t inPath = 0;
-    for (const TraceSpan& span : spans) {
-        const double x = m.x(span.time);
-        const double y = m.y(span.first);
-        // Short paths rasterise much faster than one path over the whole width.
-        if (started && ++inPath == kSpansPerStroke) {
-            cairo_stroke(cr);
-            cairo_move_to(cr, lastX, lastY);
-            inPath = 0;
-        }
-        if (!started) {
-            cairo_move_to(cr, x, y);
-            started = true;
-        } else {
-            if (window.step) cairo_line_to(cr, x, lastY);
-            cairo_line_to(cr, x, y);
-        }
-        lastX = x;
-        lastY = y;
-    }
-    cairo_stroke(cr);
-
-    if (s.PointMarkers.Visible && static_cast<int>(spans.size()) <= window.columns / 4) {
-        const double size = std::clamp(s.PointMarkers.Size, 1, 40) / 2.0;
-        for (const TraceSpan& span : spans) {
-            cairo_rectangle(cr, m.x(span.time) - size / 2, m.y(span.first) - size / 2, size, size);
-        }
-        cairo_fill(cr);
+    } else {
+        strokeSamples(cr, s, time, reduced, window.step, window.columns, 0, spans.size());
     }
     cairo_restore(cr);
 }
 
+namespace {
+
+void applyPen(cairo_t* cr, const Pen& pen) {
+    setColor(cr, pen.color);
+    cairo_set_line_width(cr, std::clamp(pen.width, 1, 20));
+}
+
 void paintSeriesLabels(cairo_t* cr, const Series& s, const Axis& time, const Grid& grid) {
     double lo = 0, hi = 0;
-    if (!s.Visible || s.pointCount() == 0 || s.Label.Text.empty() || !valueRange(s, lo, hi)) {
+    if (!s.Visible || s.pointCount() == 0 || s.Label.Text.empty() || !traceValueRange(s, lo, hi)) {
         return;
     }
     const auto on = s.labelSwitches().onIndices();
@@ -328,10 +351,7 @@ void paintSeriesLabels(cairo_t* cr, const Series& s, const Axis& time, const Gri
     cairo_restore(cr);
 }
 
-void applyPen(cairo_t* cr, const Pen& pen) {
-    setColor(cr, pen.color);
-    cairo_set_line_width(cr, std::clamp(pen.width, 1, 20));
-}
+}  // namespace
 
 void paintOverlays(cairo_t* cr, const ChartRoot& root) {
     for (int i = 0; i < root.Lines.count(); ++i) {
@@ -377,35 +397,47 @@ std::vector<const Series*> drawingOrder(const ChartRoot& root) {
     return order;
 }
 
-}  // namespace
+const Axis* traceTimeAxis(const ChartRoot& root) {
+    if (!root.Axes.contains(design::kTimeAxis)) return nullptr;
+    const Axis& time = root.Axes[design::kTimeAxis];
+    if (!(time.Maximum > time.Minimum) || !std::isfinite(time.Maximum) ||
+        !std::isfinite(time.Minimum)) {
+        return nullptr;
+    }
+    return &time;
+}
 
-void paintChart(cairo_t* cr, const ChartRoot& root, double deviceScale) {
-    if (!(deviceScale > 0) || !std::isfinite(deviceScale)) deviceScale = 1;
+void paintBackdrop(cairo_t* cr, const ChartRoot& root) {
     setColor(cr, root.BackColor);
     cairo_paint(cr);
     cairo_set_line_cap(cr, CAIRO_LINE_CAP_BUTT);
-
     const Grid* grid = root.Grids.contains(design::kGrid) ? &root.Grids[design::kGrid] : nullptr;
     const Axis* time =
         root.Axes.contains(design::kTimeAxis) ? &root.Axes[design::kTimeAxis] : nullptr;
-
     for (int i = 0; i < root.Axes.count(); ++i) {
         if (!root.Axes.at(i).horizontal()) paintScaleColumn(cr, root, root.Axes.at(i));
     }
     if (grid) paintGrid(cr, *grid);
     paintAreaBorders(cr, root);
     if (time && grid) paintTimeAxis(cr, *time, *grid);
+}
 
-    const auto order = drawingOrder(root);
-    if (time && time->Maximum > time->Minimum && std::isfinite(time->Maximum) &&
-        std::isfinite(time->Minimum)) {
-        for (const Series* s : order)
+void paintTraceLabels(cairo_t* cr, const ChartRoot& root) {
+    const Axis* time = traceTimeAxis(root);
+    if (!time || !root.Grids.contains(design::kGrid)) return;
+    const Grid& grid = root.Grids[design::kGrid];
+    for (const Series* s : drawingOrder(root))
+        paintSeriesLabels(cr, *s, *time, grid);
+}
+
+void paintChart(cairo_t* cr, const ChartRoot& root, double deviceScale) {
+    if (!(deviceScale > 0) || !std::isfinite(deviceScale)) deviceScale = 1;
+    paintBackdrop(cr, root);
+    if (const Axis* time = traceTimeAxis(root)) {
+        for (const Series* s : drawingOrder(root))
             paintTrace(cr, *s, *time, deviceScale);
-        if (grid) {
-            for (const Series* s : order)
-                paintSeriesLabels(cr, *s, *time, *grid);
-        }
     }
+    paintTraceLabels(cr, root);
     paintOverlays(cr, root);
 }
 

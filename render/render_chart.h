@@ -39,7 +39,11 @@ struct Image {
 RenderStatus renderChart(const chart::ChartRoot& root, const RenderOptions& options,
                          std::string_view path, Format format);
 
-// Draws the chart into memory; an empty image when the chart has no size.
+// Draws the chart into memory; an empty image when the chart has no size. For drawing the same
+// chart again and again, a ChartRenderer (render/chart_renderer.h) redraws only what changed.
 Image renderChartImage(const chart::ChartRoot& root, const RenderOptions& options);
+
+// Writes a picture as PNG, compressed for speed rather than size.
+RenderStatus writePng(const Image& image, std::string_view path);
 
 }  // namespace zt::render

@@ -30,11 +30,14 @@ void Series::adopt(int count, std::vector<double>&& values, std::vector<double>&
         }
     }
     labels_.reset(count_);
+    rewriteRevision_ = ++revision_;
 }
 
 void Series::setPointRange(int first, int last, const double* values, const double* times) {
     first = std::clamp(first, 0, count_);
     if (last <= first || values == nullptr || times == nullptr) return;
+    ++revision_;
+    if (first < count_) rewriteRevision_ = revision_;
     const auto end = static_cast<size_t>(last);
     if (values_.size() < end) values_.resize(end);
     if (times_.size() < end) times_.resize(end);
@@ -52,6 +55,7 @@ void Series::setPointCount(int count) {
     const int n = std::clamp(count, 0, count_);
     if (n == count_) return;
     count_ = n;
+    rewriteRevision_ = ++revision_;
     labels_.reset(count_);
 }
 

@@ -72,6 +72,13 @@ class Series {
     // count is limited to 0 … the current count.
     void setPointCount(int count);
 
+    // Counts the changes of the points: every call that sets, writes or drops points adds one.
+    uint64_t revision() const { return revision_; }
+    // The revision of the last change that did more than add points at the end (a replacement,
+    // a rewrite of earlier points, a drop). A viewer that saw revision r and n points, with
+    // rewriteRevision() <= r, holds points 0 … n - 1 unchanged and only needs the new ones.
+    uint64_t rewriteRevision() const { return rewriteRevision_; }
+
     // Value and time of point `index`; nullopt outside 0 … count - 1.
     std::optional<double> valueAt(int index) const;
     std::optional<double> timeAt(int index) const;
@@ -103,6 +110,8 @@ class Series {
     std::vector<double> times_;
     int count_ = 0;
     bool sorted_ = true;
+    uint64_t revision_ = 0;
+    uint64_t rewriteRevision_ = 0;
     LabelSwitches labels_;
 };
 
