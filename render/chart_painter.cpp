@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/chart/chart_design.h"
+#include "render/display_marks.h"
 #include "render/trace_columns.h"
 
 namespace zt::render {
@@ -407,6 +408,8 @@ void paintChart(cairo_t* cr, const ChartRoot& root, double deviceScale) {
         }
     }
     paintOverlays(cr, root);
+    paintScaleUnits(cr, root);
+    paintCursorHandles(cr, root);
 }
 
 }  // namespace zt::render
