@@ -130,6 +130,12 @@ void GraphDisplay::showCursors(int kind, bool on) {
     }
     if (chart_.timeBase->pointCount() == 0) return;
     if (kind == kValueCursors) {
+        // The value handles sit at the chart's right edge.
+        const float handleLeft = chartWidth_ > 0
+                                     ? chartWidth_ - static_cast<float>(20 * env_.twipsPerPixelX)
+                                     : static_cast<float>(chart_.root->Width * env_.twipsPerPixelX);
+        s_.cmdHorzA.Left = handleLeft;
+        s_.cmdHorzB.Left = handleLeft;
         for (chart::Line* line : {chart_.valueCursorA, chart_.valueCursorB}) {
             line->X1 = chart_.grid->Left;
             line->X2 = chart_.root->Width;

@@ -252,6 +252,7 @@ void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER
     // The displayed graph is discarded and the control returns to its ready state.
     clearDisplayedGraph(chart_, state_);
     callHook(run_.hooks().redrawVertScaleLabels);
+    display_.showCursors(0, false);
     run_.changeRunState(DataDeleted);
 }
 

@@ -8,6 +8,7 @@
 
 #include "display_fixture.h"
 #include "platform/text/format_pattern.h"
+#include "render/render_chart.h"
 
 namespace zt::testing {
 namespace {
@@ -179,6 +180,15 @@ TEST_F(CursorTest, CursorControlsFollowTheRunStates) {
     EXPECT_EQ(cursors().intCursorState, 0);
     EXPECT_EQ(readout(1, 4), "---");
     EXPECT_FALSE(s().cmdVertA.Visible);
+    // New station information discards the graph and resets the cursors.
+    timeCursorsOn();
+    ASSERT_EQ(cursors().intCursorState, 1);
+    SYS_INFO sys = library.sim().link().sysInfo();
+    PARAMETER_INFO parameter;
+    control.SetSysInfo(1, sys, parameter);
+    EXPECT_EQ(cursors().intCursorState, 0);
+    EXPECT_FALSE(chart().cursorA->Visible);
+    EXPECT_EQ(readout(2, 4), "---");
     // Without a graph the cursors cannot be shown.
     DisplayFixture empty(false);
     EXPECT_FALSE(empty.s().chkCursor.Enabled);
@@ -234,6 +244,40 @@ TEST_F(CursorTest, ColourSchemesWriteEveryElementAndOnlyModesZeroAndOne) {
     control.state().chSetting[1].lngGraphColor = 0x123456;
     capture();
     EXPECT_EQ(chart().series(1, 0).LinePen.color, 0x123456);
+}
+
+}  // namespace
+}  // namespace zt::testing
+
+namespace zt::testing {
+namespace {
+
+uint32_t rgb(uint32_t argb) {
+    return argb & 0xFFFFFF;
+}
+
+TEST_F(CursorTest, PictureShowsTheHandlesAndEachScalesUnitReadably) {
+    timeCursorsOn();
+    drag(320, 200, 500, 200);
+    const int32_t x = chart().cursorA->pixelX();
+    const render::Image dark = render::renderChartImage(root(), {});
+    // Handle A stands left of its line above the grid, in the cursor colour (0xE0E0E0).
+    EXPECT_EQ(rgb(dark.at(x - 3, 3)), 0xE0E0E0u);
+    EXPECT_EQ(rgb(dark.at(x + 3, 3)), 0u);
+    const int32_t xb = chart().cursorB->pixelX();
+    EXPECT_EQ(rgb(dark.at(xb + 3, 3)), 0xE0E0E0u);
+    // The unit "Hz" in channel 1's cyan column: some pixels of the top-left corner are black.
+    bool text = false;
+    for (int y = 35; y < 50 && !text; ++y)
+        for (int px = 2; px < 20 && !text; ++px)
+            text = rgb(dark.at(px, y)) == 0u;
+    EXPECT_TRUE(text);
+
+    std::vector<DispatchValue> light{int32_t{1}};
+    dispatch(control, dispIdOf("SetGraphColor"), DispatchKind::Method, light);
+    const render::Image image = render::renderChartImage(root(), {});
+    EXPECT_EQ(rgb(image.at(700, 100)), 0xFFFFFFu);
+    EXPECT_EQ(rgb(image.at(x - 3, 3)), 0u);  // black handle on white
 }
 
 }  // namespace
