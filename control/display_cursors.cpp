@@ -331,13 +331,14 @@ void GraphDisplay::mouseUp(int16_t button, int16_t, float x, float y) {
     if (cs.intCursorState == kTimeCursors) {
         kind = kTimeCursors;
         grabbed = grabbedTime_;
-        const double px = std::clamp<double>(x, chart_.grid->Left, chart_.grid->Right);
+        const double px =
+            std::max<double>(chart_.grid->Left, std::min<double>(x, chart_.grid->Right));
         f = (px - chart_.grid->Left) / fieldWidth();
         distance = cs.sngVertDiffPosAB;
     } else if (cs.intCursorState == kValueCursors) {
         kind = kValueCursors;
         grabbed = grabbedValue_;
-        const double py = std::clamp<double>(y, kFieldTop, chart_.grid->Bottom);
+        const double py = std::max(kFieldTop, std::min<double>(y, chart_.grid->Bottom));
         f = (py - kFieldTop) / fieldHeight();
         distance = cs.sngHorzDiffPosAB;
     }
@@ -346,8 +347,8 @@ void GraphDisplay::mouseUp(int16_t button, int16_t, float x, float y) {
     s_.registry.mousePointer = ui::MousePointer::Default;
     if (grabbed == 0 || !std::isfinite(f)) return;
     if (both_) {
-        f = grabbed == kCursorA ? std::clamp(f, 0.0, std::max(0.0, 1 - distance))
-                                : std::clamp(f, std::min(1.0, distance), 1.0);
+        f = grabbed == kCursorA ? std::max(0.0, std::min(f, 1 - distance))
+                                : std::min(1.0, std::max(f, distance));
         setCursorPosition(f, kind, grabbed);
         setCursorPosition(grabbed == kCursorA ? f + distance : f - distance, kind,
                           grabbed == kCursorA ? kCursorB : kCursorA);
