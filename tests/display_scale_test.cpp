@@ -234,3 +234,22 @@ TEST_F(ScaleTest, StartResetsTheScalesOfTheNewGraph) {
 
 }  // namespace
 }  // namespace zt::testing
+
+namespace zt::testing {
+namespace {
+
+TEST_F(ScaleTest, ShowRedrawsTheScaleLabelsAndFarZeroPositionsKeepTheBandsOnTheChart) {
+    selectChannel(2);
+    scale(2).dblVertScale = 25;  // as a load leaves it
+    scale(6).intZeroPos = 500;
+    scale(5).intZeroPos = -40;
+    control.Show();
+    EXPECT_EQ(s().lblVertScale.Caption, "25.0");
+    EXPECT_DOUBLE_EQ(chart().vertAxis[2]->Maximum, 250);
+    EXPECT_GE(chart().area[6]->Top, 0);
+    EXPECT_LE(chart().area[5]->Bottom, chart().grid->Bottom);
+    EXPECT_LT(chart().area[5]->Top, chart().area[5]->Bottom);
+}
+
+}  // namespace
+}  // namespace zt::testing
