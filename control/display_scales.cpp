@@ -43,6 +43,13 @@ Extremes scan(const chart::Series& series) {
 
 }  // namespace
 
+void GraphDisplay::placeLabels() {
+    const PlotInputs in = plotInputs_();
+    placeChannelLabels(chart_, state_, in, 0);
+    if (state_.graphInfo.udtHistoryState.lngOverWriteState != 0)
+        placeChannelLabels(chart_, state_, in, 1);
+}
+
 void GraphDisplay::enableVertScaleControls() {
     const int c = state_.graphInfo.intChNumber;
     const bool allowed = settingsOrGraph();
@@ -59,8 +66,7 @@ void GraphDisplay::optScaleClick(int index) {
     if (!settingsOrGraph()) return;
     rebuildVertScaleList();
     redrawVertScales();
-    const PlotInputs in = plotInputs_();
-    placeChannelLabels(chart_, state_, in, 0);
+    placeLabels();
     configureScrollBar();
     refreshCursors();
 }
@@ -155,8 +161,7 @@ void GraphDisplay::takeHorzScaleEntry() {
         horzScaleFromText(s_.cboHorzScale.text(), state_.sampSetting, env_.locale));
     s_.cboHorzScale.setText(text::singleToText(h.sngHorzScale, env_.locale));
     configureScrollBar();
-    const PlotInputs in = plotInputs_();
-    placeChannelLabels(chart_, state_, in, 0);
+    placeLabels();
     refreshCursors();
 }
 
@@ -184,8 +189,7 @@ void GraphDisplay::scrollChanged() {
     HORZSCALE& h = state_.graphInfo.udtHorzScale;
     h.lngHScrollPos = s_.hsbGraph.value();
     applyTimeAxis(chart_, h);
-    const PlotInputs in = plotInputs_();
-    placeChannelLabels(chart_, state_, in, 0);
+    placeLabels();
     refreshCursors();
 }
 

@@ -71,6 +71,9 @@ class GraphDisplay {
     std::string itemText(int channel, int16_t column);
     bool itemSigned(int channel);
     void enableVertScaleControls();
+    // The channel labels of the displayed graph, and of the overlay when one is shown, in the
+    // visible time span.
+    void placeLabels();
 
     // Handlers.
     void optScaleClick(int index);
