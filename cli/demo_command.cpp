@@ -13,6 +13,7 @@
 #include "cli/arguments.h"
 #include "cli/capture_setup.h"
 #include "cli/commands.h"
+#include "cli/display_actions.h"
 #include "config/sheet_rows.h"
 #include "control/graph_control_interface.h"
 #include "core/setting_limits.h"
@@ -30,7 +31,16 @@ constexpr std::string_view kUsage =
     "  --scenario  what to capture (default typical: rising trigger on the output frequency)\n"
     "  --out       folder for graph.png and graph.svg (default ztgraph-demo)\n"
     "  --sweeps    continuous scenario: sweeps before Stop is pressed (default 3)\n"
-    "  --width, --height  picture size in pixels (default 1020 x 480)\n";
+    "                    [--hscale MS] [--scroll N] [--optimize] [--scale CH:VALUE]\n"
+    "                    [--cursors time:A,B | value:A,B] [--scheme light|dark]\n"
+    "  --width, --height  picture size in pixels (default 1020 x 480)\n"
+    "After the capture, on the control as a person would:\n"
+    "  --hscale    type MS into the ms/Div box and press Enter\n"
+    "  --scroll    move the scroll bar to N divisions\n"
+    "  --optimize  press \"Optimize VertScale\"\n"
+    "  --scale     choose \"One\", click channel CH and type VALUE as its scale\n"
+    "  --cursors   show time or value cursors and drag A and B to fractions 0 to 1\n"
+    "  --scheme    the host's colour scheme (light or dark)\n";
 
 // Replies the host delivers at most before the demo gives up on a capture.
 constexpr int kMaxReplies = 200000;
@@ -42,12 +52,23 @@ struct DemoOptions {
     std::filesystem::path out = "ztgraph-demo";
     int sweeps = 3;
     render::RenderOptions picture{1020, 480};
+    DisplayActions display;
 };
 
 // Parses the options; an error text when they are not understood.
 std::optional<std::string> parseOptions(const Args& args, DemoOptions& o) {
     for (size_t i = 0; i < args.size(); ++i) {
         const std::string& a = args[i];
+        if (isDisplayFlag(a)) {
+            parseDisplayOption(a, nullptr, o.display);
+            continue;
+        }
+        if (auto problem =
+                parseDisplayOption(a, i + 1 < args.size() ? &args[i + 1] : nullptr, o.display)) {
+            if (!problem->empty()) return problem;
+            ++i;
+            continue;
+        }
         if (i + 1 >= args.size()) return a + " needs a value";
         const std::string& v = args[++i];
         if (a == "--scenario") {
@@ -267,6 +288,11 @@ int runDemo(const Args& args, std::ostream& out, std::ostream& err) {
     out << "Run state " << control.runState() << ", " << replies << " replies of up to "
         << kRecordsPerReply << " samples\n";
     printResult(control, library, out);
+    if (auto problem = performDisplayActions(control, o.display)) {
+        err << "ztgraph demo: " << *problem << "\n";
+        return 1;
+    }
+    printCursorReadouts(control, out);
 
     std::error_code ec;
     std::filesystem::create_directories(o.out, ec);

@@ -27,7 +27,8 @@ ztGraphControl::ztGraphControl(CommonLibrary& library, HostEnvironment environme
       host_(library, Font{}),
       run_(state_, surface_, host_, [this](int32_t command) { ReqCommand.raise(command); }),
       sheets_(state_, host_, surface_.sprChannel, surface_.sprTrigger, surface_.sprSampling,
-              surface_.lblHighSampItem, env_.locale) {
+              surface_.lblHighSampItem, env_.locale),
+      display_(state_, surface_, chart_, sheets_, host_, env_, [this] { return plotInputs(); }) {
     initialize();
 }
 
@@ -75,8 +76,9 @@ void ztGraphControl::initialize() {
     // 10. The chart's appearance.
     configureChart(chart_, state_.chSetting, std::nullopt);
 
-    // 11. Scroll bar, scale option "All", cursor controls.
+    // 11. Scroll bar, scale option "All", cursor controls; cursors A at 0 and B at 1, off.
     setUpCursorControls(s, host_);
+    state_.graphInfo.udtCursorState = CURSORSTATE{};
 
     // 12. History cleared; no channel has a station.
     for (auto& slot : state_.history.udtGraphResultInfo) {
@@ -104,6 +106,7 @@ void ztGraphControl::initialize() {
     });
     s.tbsGraphOp.select(1);
     showSelectedPanel(s);
+    display_.connect();
 
     // 16. Axis labels in the common library's font.
     if (const std::optional<Font> font = host_.common().GetFont()) setAxisFont(chart_, *font);
@@ -119,18 +122,23 @@ void ztGraphControl::initialize() {
 
     state_.runState = 0;
     run_.applyRunState();
-    Resize();
+    // The surface is laid out; the chart keeps its start extent until the host's first resize.
+    resizeSurface(surface_, width_, height_, env_);
 }
 
 void ztGraphControl::Show() {
-    // The vertical-scale display follows the selected channel; nothing to redraw until the
-    // scale labels exist.
+    display_.redrawVertScales();
 }
 
 void ztGraphControl::Resize() {
     width_ = clampedSize(width_);
     height_ = clampedSize(height_);
     resizeSurface(surface_, width_, height_, env_);
+    display_.layoutChart(width_, height_);
+}
+
+void ztGraphControl::SetGraphColor(int32_t lngMode) {
+    display_.setGraphColor(lngMode);
 }
 
 void ztGraphControl::Terminate() {
@@ -244,6 +252,7 @@ void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER
     // The displayed graph is discarded and the control returns to its ready state.
     clearDisplayedGraph(chart_, state_);
     callHook(run_.hooks().redrawVertScaleLabels);
+    display_.showCursors(0, false);
     run_.changeRunState(DataDeleted);
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "config/setting_sheets.h"
+#include "control/graph_display.h"
 #include "core/chart_refs.h"
 #include "core/conversion_table.h"
 #include "core/graph_state.h"
@@ -114,6 +115,8 @@ class ztGraphControl {
     chart::ChartRoot& chartRoot() { return CBGraph1; }
     const chart::ChartRoot& chartRoot() const { return CBGraph1; }
     const ChartRefs& chartRefs() const { return chart_; }
+    // The scale panel, cursors, colour schemes and chart layout.
+    GraphDisplay& display() { return display_; }
     // How raw counts of analog channels 1 to 4 become the values on the graph, for the
     // current configuration and request.
     ConversionTable conversionTable();
@@ -138,6 +141,7 @@ class ztGraphControl {
     SettingSheets sheets_;
     chart::ChartRoot CBGraph1;
     ChartRefs chart_;
+    GraphDisplay display_;
     PlotInputs sweepInputs_;  // plot inputs of the sweep being sampled
     float width_ = kMinControlSize;
     float height_ = kMinControlSize;

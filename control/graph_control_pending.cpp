@@ -22,6 +22,4 @@ int16_t ztGraphControl::LoadKivFile(const std::string&, VERSION_INFO&, PROGRAM_V
     return -1;
 }
 
-void ztGraphControl::SetGraphColor(int32_t) {}
-
 }  // namespace zt

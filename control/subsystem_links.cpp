@@ -25,6 +25,15 @@ constexpr int16_t kAttrZeroOnFault = 9;
 void ztGraphControl::linkSubsystems() {
     sheets_.hooks.runEvent = [this](int16_t event) { run_.changeRunState(event); };
     sheets_.hooks.redrawGraph = [this] { showGraph(); };
+    sheets_.hooks.currentChannelChanged = [this](int channel) {
+        display_.currentChannelChanged(channel);
+    };
+    sheets_.hooks.refreshScaleDisplay = [this] { display_.refreshScaleDisplay(); };
+    sheets_.hooks.rebuildTimeScaleList = [this] { display_.rebuildHorzScaleList(); };
+    sheets_.hooks.resetDisplay = [this] {
+        display_.showCursors(0, false);
+        display_.redrawVertScales();
+    };
 
     RunHooks& run = run_.hooks();
     run.lockSheets = [this](bool locked) { sheets_.setSheetsLocked(locked); };
@@ -43,6 +52,7 @@ void ztGraphControl::linkSubsystems() {
     };
     run.plotInputs = [this] { return plotInputs(); };
     run.prepareDisplayForRun = [this] { prepareDisplayForRun(); };
+    run.redrawVertScaleLabels = [this] { display_.redrawVertScales(); };
     // The settings are locked while sampling and the request is complete before the first
     // reply, so a sweep's plot inputs are read once, at its first records.
     run.drawNewRecords = [this](int first, int last) {
@@ -103,16 +113,19 @@ void ztGraphControl::prepareDisplayForRun() {
         state_.graphInfo.udtVertScale[ch] = defaultVertScale(c, static_cast<int32_t>(fs));
     }
     resetHorzScale(state_.graphInfo.udtHorzScale, state_.sampSetting);
+    display_.rebuildHorzScaleList();
     clearDisplayedGraph(chart_, state_);
-    applyVertScales(chart_, state_.graphInfo, in);
-    applyTimeAxis(chart_, state_.graphInfo.udtHorzScale);
+    display_.redrawVertScales();
+    display_.configureScrollBar();
+    display_.resetForRun();
 }
 
 void ztGraphControl::showGraph() {
     const PlotInputs in = plotInputs();
-    applyVertScales(chart_, state_.graphInfo, in);
+    display_.redrawVertScales();
     applyTimeAxis(chart_, state_.graphInfo.udtHorzScale);
     drawGraph(chart_, state_, in, 0, kDisplayedGraph);
+    display_.configureScrollBar();
 }
 
 }  // namespace zt

@@ -21,11 +21,12 @@ struct HORZSCALE {
     friend bool operator==(const HORZSCALE&, const HORZSCALE&) = default;
 };
 
+// Cursors start with A at the top or left edge and B at the bottom or right edge.
 struct CURSORSTATE {
     float sngHorzCursorApos = 0;  // value cursor A, fraction of the grid height from the top
-    float sngHorzCursorBpos = 0;  // value cursor B
+    float sngHorzCursorBpos = 1;  // value cursor B
     float sngVertCursorApos = 0;  // time cursor A, fraction of the grid width from the left
-    float sngVertCursorBpos = 0;  // time cursor B
+    float sngVertCursorBpos = 1;  // time cursor B
     int16_t intCursorState = 0;   // 0 off, 1 time cursors, 2 value cursors
     float sngHorzDiffPosAB = 0;   // value-cursor distance taken when a drag starts
     float sngVertDiffPosAB = 0;   // time-cursor distance taken when a drag starts

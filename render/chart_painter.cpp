@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/chart/chart_design.h"
+#include "render/display_marks.h"
 #include "render/trace_columns.h"
 
 namespace zt::render {
@@ -439,6 +440,8 @@ void paintChart(cairo_t* cr, const ChartRoot& root, double deviceScale) {
     }
     paintTraceLabels(cr, root);
     paintOverlays(cr, root);
+    paintScaleUnits(cr, root);
+    paintCursorHandles(cr, root);
 }
 
 }  // namespace zt::render

@@ -40,12 +40,14 @@ void applyVertScales(const ChartRefs& refs, const GRAPHINFO& info, const PlotInp
             axis.Maximum = (kDivisions - z) * s;
             continue;
         }
-        // The band is half a division tall and ends on the zero line.
+        // The band is half a division tall and ends on the zero line; a zero position beyond
+        // 0 to 9 (from a file) is held at its nearest end so the band stays inside the grid.
+        const int bandZero = std::clamp(z, 0, 9);
         axis.Minimum = 0;
         axis.Maximum = 1;
         chart::Area& band = *refs.area[ch];
-        const double top = grid.Top + height * (2 * (kDivisions - z) - 1) / 20.0;
-        const double bottom = grid.Top + height * (2 * (kDivisions - z)) / 20.0;
+        const double top = grid.Top + height * (2 * (kDivisions - bandZero) - 1) / 20.0;
+        const double bottom = grid.Top + height * (2 * (kDivisions - bandZero)) / 20.0;
         band.Top = static_cast<int32_t>(std::lround(std::min(top, bottom)));
         band.Bottom = static_cast<int32_t>(std::lround(std::max(top, bottom)));
     }
