@@ -378,6 +378,9 @@ void paintOverlays(cairo_t* cr, const ChartRoot& root) {
         selectFont(cr, "sans-serif", pointsToPixels(l.FontSize));
         drawText(cr, l.Text, l.X, l.Y, Align::Centre);
     }
+    // The scale columns' unit texts and the cursor handles: over the traces in every picture.
+    paintScaleUnits(cr, root);
+    paintCursorHandles(cr, root);
 }
 
 // Series in drawing order: the time base, the overlay graphs, then the displayed graphs.
@@ -440,8 +443,6 @@ void paintChart(cairo_t* cr, const ChartRoot& root, double deviceScale) {
     }
     paintTraceLabels(cr, root);
     paintOverlays(cr, root);
-    paintScaleUnits(cr, root);
-    paintCursorHandles(cr, root);
 }
 
 }  // namespace zt::render
