@@ -22,6 +22,7 @@
 #include "platform/host_records.h"
 #include "platform/ui/event.h"
 #include "run/run_control.h"
+#include "store/history_display.h"
 
 namespace zt {
 
@@ -98,8 +99,16 @@ class ztGraphControl {
                         PROGRAM_VERSION& udtProgramVersion);
     void SetGraphColor(int32_t lngMode);
 
+    // Called at the end of the display refresh after an import or project load, for the scale
+    // and cursor subsystems to redraw from the loaded GRAPHINFO.
+    void setRefreshDisplayAfterLoad(std::function<void()> hook) {
+        hooksAfterLoad_ = std::move(hook);
+    }
+
     // Run control and the hooks through which it reaches the other subsystems.
     RunControl& run() { return run_; }
+    // History controls (option row, overwrite boxes, labels, comment box).
+    HistoryDisplay& history() { return history_; }
 
     // What a person and a test can see and touch.
     GraphSurface& surface() { return surface_; }
@@ -129,6 +138,14 @@ class ztGraphControl {
     void prepareDisplayForRun();
     // Draws the newest graph with its axes.
     void showGraph();
+    // After an import or project load: sheets, scroll range, scale panel, history selection,
+    // cursor controls, then the display refresh below.
+    void applyLoadedState(int32_t scrollMax);
+    // Redraws scales, axes and cursors for the loaded display state.
+    void refreshDisplayAfterLoad();
+    // The first loaded channel whose station or item the host does not offer (after its
+    // message), or 0.
+    int firstChannelInError();
 
     HostEnvironment env_;
     HostServices host_;
@@ -136,9 +153,11 @@ class ztGraphControl {
     GraphSurface surface_;
     RunControl run_;
     SettingSheets sheets_;
+    HistoryDisplay history_;
     chart::ChartRoot CBGraph1;
     ChartRefs chart_;
     PlotInputs sweepInputs_;  // plot inputs of the sweep being sampled
+    std::function<void()> hooksAfterLoad_;
     float width_ = kMinControlSize;
     float height_ = kMinControlSize;
     bool terminated_ = false;

@@ -31,6 +31,9 @@ ReadResult readWholeFile(const char* fileName, std::string& content) {
     errno = 0;
     FilePtr file(std::fopen(fileName, "rb"));
     if (!file) return errno == ENOENT ? ReadResult::Missing : ReadResult::Failed;
+    // Devices and pipes are no profile files (a device such as /dev/full never ends).
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(fileName, ec)) return ReadResult::Failed;
     char chunk[64 * 1024];
     for (;;) {
         const std::size_t got = std::fread(chunk, 1, sizeof chunk, file.get());
