@@ -1,10 +1,10 @@
 #include "store/graph_text_import.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <fstream>
 #include <iterator>
+#include <limits>
 #include <optional>
 #include <sstream>
 
@@ -33,6 +33,14 @@ std::string trimBlanks(std::string_view s) {
 
 bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+std::string_view trimView(std::string_view s) {
+    while (!s.empty() && isBlank(s.front()))
+        s.remove_prefix(1);
+    while (!s.empty() && isBlank(s.back()))
+        s.remove_suffix(1);
+    return s;
 }
 
 // The keyed reads of one import with the checks of each kind of value.
@@ -271,9 +279,18 @@ void splitFields(std::string_view line, std::vector<std::string_view>& fields) {
 
 template <typename T>
 void readField(std::string_view field, T& target) {
+    // A plain signed decimal integer that fits the field; anything else is skipped.
+    std::size_t i = 0;
+    const bool negative = !field.empty() && field[0] == '-';
+    if (negative || (!field.empty() && field[0] == '+')) i = 1;
+    if (i >= field.size() || field.size() - i > 18) return;
     int64_t v = 0;
-    const auto [end, ec] = std::from_chars(field.data(), field.data() + field.size(), v);
-    if (ec != std::errc{} || end != field.data() + field.size()) return;  // skipped
+    for (; i < field.size(); ++i) {
+        const char c = field[i];
+        if (c < '0' || c > '9') return;
+        v = v * 10 + (c - '0');
+    }
+    if (negative) v = -v;
     if (v < std::numeric_limits<T>::min() || v > std::numeric_limits<T>::max()) return;
     target = static_cast<T>(v);
 }
@@ -338,15 +355,14 @@ void readSampleTablesFromText(GraphState& state, std::string_view text) {
         int field = 0;
         std::size_t index = 0;
         while (!lines.atEnd() && index < samples.size()) {
-            const std::string_view line = lines.peek();
+            const std::string_view line = trimView(lines.peek());
             // A table ends early at the next section.
-            if (!line.empty() && trimBlanks(line).rfind('[', 0) == 0) break;
+            if (!line.empty() && line.front() == '[') break;
             lines.next();
-            if (trimBlanks(line).empty()) continue;
+            if (line.empty()) continue;
             splitFields(line, fields);
-            for (std::string_view f : fields) {
+            for (std::string_view v : fields) {
                 if (index >= samples.size()) break;
-                const std::string_view v = f;
                 SampleRecord& r = samples[index];
                 switch (field) {
                     case 0:
