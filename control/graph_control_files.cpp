@@ -17,15 +17,6 @@
 
 namespace zt {
 
-namespace {
-
-// Run event after a project load in an offline state.
-constexpr int16_t kEventProjectLoaded = 10;
-constexpr int16_t kEventImportValid = 4;
-constexpr int16_t kEventImportChannelError = 11;
-
-}  // namespace
-
 int16_t ztGraphControl::ExportFile(const std::string& strFileName) {
     const int16_t rs = state_.runState;
     if (rs != OnlineReady && rs != OnlineGraph && rs != OfflineReady && rs != OfflineGraph)
@@ -67,7 +58,7 @@ int16_t ztGraphControl::ImportFile(const std::string& strFileName, SYS_INFO&) {
     applyLoadedState(keys.scrollMax);
     state_.loadingGraphFile = false;
 
-    run_.changeRunState(firstChannelInError() == 0 ? kEventImportValid : kEventImportChannelError);
+    run_.changeRunState(firstChannelInError() == 0 ? GraphLoaded : GraphReset);
     return 0;
 }
 
@@ -164,7 +155,7 @@ int16_t ztGraphControl::LoadKivFile(const std::string& strFileName, VERSION_INFO
     }
     const int16_t rs = state_.runState;
     if (rs == OfflineNoChannel || rs == OfflineReady || rs == OfflineGraph)
-        run_.changeRunState(kEventProjectLoaded);
+        run_.changeRunState(ProjectLoaded);
     return read ? 0 : -1;
 }
 
