@@ -5,7 +5,9 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <random>
 #include <string>
+#include <vector>
 
 #include "control/graph_control.h"
 #include "run/run_states.h"
@@ -133,6 +135,28 @@ TEST_F(FileMembersTest, ExportThenImportThroughTheControlKeepsTheGraphs) {
     }
     EXPECT_EQ(other->state().graphInfo.udtHistoryState, (HISTORYSTATE{1, 5, 16}));
     EXPECT_EQ(other->surface().chkOverWrite[4].value(), ui::kChecked);
+}
+
+TEST_F(FileMembersTest, NothingInAGraphFileMakesTheImportFail) {
+    std::mt19937 rng(5);
+    const std::vector<std::string> keys = {
+        "SamplingSpeed", "SamplingInterval", "SamplingMask",   "SamplingTime", "TriggerType",
+        "TriggerLevel",  "TriggerPosition",  "HorzScale",      "HscrollPos",   "ChNumber",
+        "GraphTotal",    "CurrentGraph",     "OverWriteState", "CursorState",  "TargetNo",
+        "SamplingItem",  "VertScale",        "ZeroPos",        "DecPoint",     "Comment"};
+    const std::vector<std::string> values = {"",     "-1",     "1e308", "NaN", "99999999999",
+                                             "0,5",  "&HFFFF", "3",     "1",   "\"x\"",
+                                             "-0.0", "40",     "(2)",   "1d2", "2147483648"};
+    for (int round = 0; round < 30; ++round) {
+        std::string text;
+        for (const char* section : {"[COMMON]", "[CHANNEL_01]", "[CHANNEL_05]", "[DATA_01]"}) {
+            text += std::string(section) + "\r\n";
+            for (int k = 0; k < 12; ++k)
+                text += keys[rng() % keys.size()] + "=" + values[rng() % values.size()] + "\r\n";
+        }
+        lib.boxes().answerNext(kResultOk);
+        EXPECT_EQ(control->ImportFile(write("f.gp3", text), sys), 0) << text;
+    }
 }
 
 TEST_F(FileMembersTest, ProjectLoadInAnOfflineStateSendsItsEvent) {

@@ -325,3 +325,37 @@ TEST_F(ProjectFileTest, NoBlockPositionLeavesTheFileUntouched) {
 
 }  // namespace
 }  // namespace zt
+
+namespace zt {
+namespace {
+
+TEST_F(ProjectFileTest, ARandomVersion4BlockLoadsWithoutFailing) {
+    std::mt19937 rng(99);
+    for (int round = 0; round < 3; ++round) {
+        std::string bytes(static_cast<std::size_t>(sim::kProjectBlockPosition - 1), '\0');
+        bytes += std::string("\x04\x00", 2) + "4.00" + std::string("\x05\x00\x00\x00", 4);
+        std::string rest(static_cast<std::size_t>(kProjectBlockBytes - 10), '\0');
+        for (char& c : rest)
+            c = static_cast<char>(rng());
+        // Array headers as written, so that the block reads to its end.
+        auto header = [&](std::size_t at) {
+            const int16_t dims = 1;
+            const int32_t count = 10000, lower = 0;
+            std::memcpy(rest.data() + at, &dims, 2);
+            std::memcpy(rest.data() + at + 2, &count, 4);
+            std::memcpy(rest.data() + at + 6, &lower, 4);
+        };
+        for (int ch = 0; ch < 8; ++ch) {
+            header(306 + static_cast<std::size_t>(ch) * 160030);
+            header(306 + static_cast<std::size_t>(ch) * 160030 + 80010);
+        }
+        for (int slot = 0; slot < 5; ++slot)
+            header(1280546 + static_cast<std::size_t>(slot) * 240010);
+        std::ofstream(file, std::ios::binary | std::ios::trunc) << bytes + rest;
+        const int16_t result = control->LoadKivFile(file, version, program);
+        EXPECT_TRUE(result == 0 || result == -1);
+    }
+}
+
+}  // namespace
+}  // namespace zt
