@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <type_traits>
 #include <vector>
 
 #include "platform/text/code_page.h"
@@ -38,6 +39,16 @@ class BlockWriter {
         out_.append(reinterpret_cast<const char*>(bytes), sizeof(T));
     }
     void raw(const std::string& bytes) { out_ += bytes; }
+    // The elements of an array of doubles, as they lie in memory on a little-endian machine.
+    void doubles(const std::vector<double>& values) {
+        if constexpr (std::endian::native == std::endian::little) {
+            out_.append(reinterpret_cast<const char*>(values.data()),
+                        values.size() * sizeof(double));
+        } else {
+            for (double v : values)
+                put(v);
+        }
+    }
     void arrayHeader(int32_t count) {
         put<int16_t>(1);
         put<int32_t>(count);
@@ -78,6 +89,13 @@ class BlockReader {
         get<int32_t>();  // lower bound
         if (!ok_ || dims != 1 || count < 0 || count > kMaxArrayElements) {
             ok_ = false;
+            return;
+        }
+        if constexpr (std::is_same_v<T, U> && std::endian::native == std::endian::little) {
+            // Read straight into place; a longer array is read whole and cut.
+            out.assign(std::max(size, static_cast<std::size_t>(count)), U{});
+            read(out.data(), static_cast<std::size_t>(count) * sizeof(T));
+            out.resize(size);
             return;
         }
         std::vector<T> values(static_cast<std::size_t>(count));
@@ -236,8 +254,7 @@ bool writeProjectBlock(GraphState& state, const std::string& fileName, int64_t p
         const SAMPDATA& d = state.sampData[static_cast<std::size_t>(ch)];
         for (const auto* values : {&d.sngSamplingData, &d.sngSamplingTimeByInv}) {
             w.arrayHeader(static_cast<int32_t>(values->size()));
-            for (double v : *values)
-                w.put(v);
+            w.doubles(*values);
         }
         w.put(d.sngUnit);
         w.put(d.sngBaseValue);
