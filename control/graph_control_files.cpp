@@ -25,11 +25,7 @@ int16_t ztGraphControl::ExportFile(const std::string& strFileName) {
         host_.common().WriteGraphFileHeader(strFileName, "1.00", state_.selectedNode);
     const int codePage = env_.locale.codePage;
     const std::string dataHeader = text::toAnsi(host_.text(msg::kDataHeader), codePage);
-    return writeGraphTextFile(
-        state_, strFileName, header, dataHeader, env_.locale,
-        [&](const std::string& section, const std::string& key, const std::string& value) {
-            return zt::SetInifileString(strFileName, section, key, value, codePage);
-        });
+    return exportGraphTextFile(state_, strFileName, header, dataHeader, env_.locale, codePage);
 }
 
 int16_t ztGraphControl::ImportFile(const std::string& strFileName, SYS_INFO&) {

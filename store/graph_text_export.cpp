@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <memory>
 
+#include "platform/profile/profile_document.h"
+#include "platform/text/code_page.h"
 #include "platform/text/number_text.h"
 
 namespace zt {
@@ -41,28 +43,17 @@ class SectionWriter {
     int32_t& result_;
 };
 
-void appendNumber(std::string& out, int64_t value) {
-    char buffer[24];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
-    out.append(buffer, end);
-}
-
 struct FileCloser {
     void operator()(std::FILE* f) const {
         if (f != nullptr) std::fclose(f);
     }
 };
 
-// Appends the header line and the data lines of one slot; false when the file could not be
-// opened or written.
-bool appendDataTable(const std::string& fileName, const std::string& header,
-                     const GRAPH_RESULT_INFO& graph) {
+// Appends bytes to the file; false when it could not be opened or written.
+bool appendToFile(const std::string& fileName, const std::string& bytes) {
     std::unique_ptr<std::FILE, FileCloser> file(std::fopen(fileName.c_str(), "ab"));
     if (!file) return false;
-    std::string block = header;
-    block += "\r\n";
-    block += dataLines(graph);
-    const bool written = std::fwrite(block.data(), 1, block.size(), file.get()) == block.size();
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
     const bool flushed = std::fflush(file.get()) == 0;
     return written && flushed && std::fclose(file.release()) == 0;
 }
@@ -78,29 +69,57 @@ std::string dataSectionName(int slot) {
 }
 
 std::string dataLines(const GRAPH_RESULT_INFO& graph) {
-    std::string out;
-    out.reserve(static_cast<std::size_t>(kDataLines) * 32);
+    // Seven numbers of at most 11 characters, six commas and CR LF per line.
+    constexpr std::size_t kLineMax = 7 * 11 + 6 + 2;
+    std::string out(static_cast<std::size_t>(kDataLines) * kLineMax, '\0');
+    char* p = out.data();
+    const auto number = [&p](int32_t value) { p = std::to_chars(p, p + 11, value).ptr; };
     const SampleRecord zero{};
     for (int i = 0; i < kDataLines; ++i) {
         const auto index = static_cast<std::size_t>(i);
         const SampleRecord& r = index < graph.udtSample.size() ? graph.udtSample[index] : zero;
-        appendNumber(out, r.lngDiffTime);
-        out += ',';
-        appendNumber(out, r.intFaultData);
-        out += ',';
-        appendNumber(out, r.intDigitalData);
+        number(r.lngDiffTime);
+        *p++ = ',';
+        number(r.intFaultData);
+        *p++ = ',';
+        number(r.intDigitalData);
         for (int32_t value : r.lngAnalogData) {
-            out += ',';
-            appendNumber(out, value);
+            *p++ = ',';
+            number(value);
         }
-        out += "\r\n";
+        *p++ = '\r';
+        *p++ = '\n';
     }
+    out.resize(static_cast<std::size_t>(p - out.data()));
     return out;
 }
 
 int16_t writeGraphTextFile(const GraphState& state, const std::string& fileName, int32_t result,
                            const std::string& dataHeader, const HostLocale& locale,
                            const ProfileWriter& writeKey) {
+    return writeGraphTextFile(
+        state, result, dataHeader, locale, writeKey,
+        [&fileName](const std::string& bytes) { return appendToFile(fileName, bytes); });
+}
+
+int16_t exportGraphTextFile(const GraphState& state, const std::string& fileName, int32_t result,
+                            const std::string& dataHeader, const HostLocale& locale, int codePage) {
+    profile::ProfileDocument file(fileName);
+    const int16_t written = writeGraphTextFile(
+        state, result, dataHeader, locale,
+        [&](const std::string& section, const std::string& key, const std::string& value) {
+            return file.write(text::toAnsi(section, codePage), text::toAnsi(key, codePage),
+                              text::toAnsi(value, codePage));
+        },
+        [&](const std::string& bytes) { return file.append(bytes); });
+    // What was written stays, also after a failure, as with writes made one by one.
+    const bool saved = file.save();
+    return saved ? written : int16_t{-1};
+}
+
+int16_t writeGraphTextFile(const GraphState& state, int32_t result, const std::string& dataHeader,
+                           const HostLocale& locale, const ProfileWriter& writeKey,
+                           const FileAppender& append) {
     SectionWriter w(writeKey, locale, result);
     const SAMPSETTING& s = state.sampSetting;
     const GRAPHINFO& g = state.graphInfo;
@@ -152,7 +171,9 @@ int16_t writeGraphTextFile(const GraphState& state, const std::string& fileName,
         const auto i = static_cast<std::size_t>(slot);
         // The Comment write creates the section at the end of the file; its table follows.
         w.text(dataSectionName(slot), "Comment", state.history.strComments[i] + " ");
-        if (!appendDataTable(fileName, dataHeader, state.history.udtGraphResultInfo[i])) return -1;
+        if (!append ||
+            !append(dataHeader + "\r\n" + dataLines(state.history.udtGraphResultInfo[i])))
+            return -1;
     }
     return static_cast<int16_t>(result);
 }

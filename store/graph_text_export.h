@@ -30,6 +30,21 @@ int16_t writeGraphTextFile(const GraphState& state, const std::string& fileName,
                            const std::string& dataHeader, const HostLocale& locale,
                            const ProfileWriter& writeKey);
 
+// Appends bytes at the end of the file; false when the file could not be opened or written.
+using FileAppender = std::function<bool(const std::string& bytes)>;
+
+// The same with the appending given.
+int16_t writeGraphTextFile(const GraphState& state, int32_t result, const std::string& dataHeader,
+                           const HostLocale& locale, const ProfileWriter& writeKey,
+                           const FileAppender& append);
+
+// The whole export of `fileName` after its header step: every keyed write and appended table
+// is made on the file's bytes in memory, with the private-profile rules, and the file is
+// written once at the end. Texts are converted to the code page; the file's final bytes are
+// those of the same writes made one by one.
+int16_t exportGraphTextFile(const GraphState& state, const std::string& fileName, int32_t result,
+                            const std::string& dataHeader, const HostLocale& locale, int codePage);
+
 // The data lines of one slot ("120,0,5,-312,4000,0,0" CR LF, 10,000 of them).
 std::string dataLines(const GRAPH_RESULT_INFO& graph);
 

@@ -261,6 +261,29 @@ TEST_F(GraphTextTest, FailedWritesGiveMinusOneWithoutCrashing) {
     auto state = std::make_unique<GraphState>();
     EXPECT_EQ(exportState(*state, "/dev/full", HostLocale{}), -1);
     EXPECT_EQ(exportState(*state, (dir / "no" / "such" / "g.gp3").string(), HostLocale{}), -1);
+    EXPECT_EQ(exportGraphTextFile(*state, "/dev/full", 0, "H=", HostLocale{}, 1252), -1);
+    EXPECT_EQ(
+        exportGraphTextFile(*state, (dir / "no" / "g.gp3").string(), 0, "H=", HostLocale{}, 1252),
+        -1);
+    EXPECT_EQ(exportGraphTextFile(*state, dir.string(), 0, "H=", HostLocale{}, 1252), -1);
+}
+
+TEST_F(GraphTextTest, InMemoryExportLeavesTheBytesOfWritesMadeOneByOne) {
+    HostLocale jp;
+    jp.codePage = 932;
+    auto state = std::make_unique<GraphState>();
+    std::mt19937 rng(8);
+    fillReadableState(*state, rng, true);
+    state->history.strComments[3] = "\xE3\x81\x82 a,b";
+    const std::string direct = (dir / "direct.gp3").string();
+    const std::string memory = (dir / "memory.gp3").string();
+    ASSERT_EQ(exportState(*state, direct, jp), 0);
+    sim::SimCommonLibrary lib(sim::SimLink::standard(), jp);
+    const int32_t header = lib.common().WriteGraphFileHeader(memory, "1.00", 0);
+    ASSERT_EQ(exportGraphTextFile(*state, memory, header, std::string(msg::kDataHeader.defaultText),
+                                  jp, 932),
+              0);
+    EXPECT_TRUE(readAll(direct) == readAll(memory));
 }
 
 TEST_F(GraphTextTest, AFailedKeyedWriteStillWritesTheTables) {
