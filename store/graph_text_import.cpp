@@ -295,30 +295,50 @@ void readField(std::string_view field, T& target) {
     target = static_cast<T>(v);
 }
 
+// Field `field` (0 to 6) of a sample record.
+void storeField(SampleRecord& r, int field, std::string_view v) {
+    switch (field) {
+        case 0:
+            readField(v, r.lngDiffTime);
+            break;
+        case 1:
+            readField(v, r.intFaultData);
+            break;
+        case 2:
+            readField(v, r.intDigitalData);
+            break;
+        default:
+            readField(v, r.lngAnalogData[static_cast<std::size_t>(field - 3)]);
+    }
+}
+
 // Sequential reader over the file's lines.
 class LineCursor {
   public:
     explicit LineCursor(std::string_view text) : text_(text) {}
     bool atEnd() const { return pos_ >= text_.size(); }
-    std::string_view peek() const {
-        const std::size_t end = lineEnd();
-        std::string_view line = text_.substr(pos_, end - pos_);
+    std::string_view peek() {
+        if (end_ == kUnknown) {
+            const std::size_t end = text_.find('\n', pos_);
+            end_ = end == std::string_view::npos ? text_.size() : end;
+        }
+        std::string_view line = text_.substr(pos_, end_ - pos_);
         while (!line.empty() && (line.back() == '\r'))
             line.remove_suffix(1);
         return line;
     }
     void next() {
-        pos_ = lineEnd();
+        peek();
+        pos_ = end_;
         if (pos_ < text_.size()) ++pos_;
+        end_ = kUnknown;
     }
 
   private:
-    std::size_t lineEnd() const {
-        const std::size_t end = text_.find('\n', pos_);
-        return end == std::string_view::npos ? text_.size() : end;
-    }
+    static constexpr std::size_t kUnknown = std::string_view::npos;
     std::string_view text_;
     std::size_t pos_ = 0;
+    std::size_t end_ = kUnknown;
 };
 
 }  // namespace
@@ -360,23 +380,30 @@ void readSampleTablesFromText(GraphState& state, std::string_view text) {
             if (!line.empty() && line.front() == '[') break;
             lines.next();
             if (line.empty()) continue;
+            if (line.find('"') == std::string_view::npos) {
+                // Plain line: each field read in one pass, straight into the record.
+                const char* p = line.data();
+                const char* const end = p + line.size();
+                while (index < samples.size()) {
+                    const char* const fieldStart = p;
+                    while (p != end && *p != ',')
+                        ++p;
+                    storeField(samples[index], field,
+                               trimView(std::string_view(
+                                   fieldStart, static_cast<std::size_t>(p - fieldStart))));
+                    if (++field == 7) {
+                        field = 0;
+                        ++index;
+                    }
+                    if (p == end) break;
+                    ++p;
+                }
+                continue;
+            }
             splitFields(line, fields);
             for (std::string_view v : fields) {
                 if (index >= samples.size()) break;
-                SampleRecord& r = samples[index];
-                switch (field) {
-                    case 0:
-                        readField(v, r.lngDiffTime);
-                        break;
-                    case 1:
-                        readField(v, r.intFaultData);
-                        break;
-                    case 2:
-                        readField(v, r.intDigitalData);
-                        break;
-                    default:
-                        readField(v, r.lngAnalogData[static_cast<std::size_t>(field - 3)]);
-                }
+                storeField(samples[index], field, v);
                 if (++field == 7) {
                     field = 0;
                     ++index;
