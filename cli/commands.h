@@ -19,4 +19,10 @@ int runRender(const Args& args, std::ostream& out, std::ostream& err);
 // Runs a capture end to end on the simulated host and writes the graph as pictures.
 int runDemo(const Args& args, std::ostream& out, std::ostream& err);
 
+// Loads a graph text file or a project block and prints the state the control then holds.
+int runInfo(const Args& args, std::ostream& out, std::ostream& err);
+
+// Writes one history slot of a graph text file as comma-separated engineering values.
+int runExportCsv(const Args& args, std::ostream& out, std::ostream& err);
+
 }  // namespace zt::cli

@@ -307,6 +307,21 @@ int runDemo(const Args& args, std::ostream& out, std::ostream& err) {
         }
         out << "wrote " << path.string() << "\n";
     }
+
+    // The graph as a graph text file and the whole state as a project file.
+    const std::filesystem::path graphFile = o.out / "graph.gp3";
+    if (control.ExportFile(graphFile.string()) != 0) {
+        err << "ztgraph demo: cannot write " << graphFile.string() << "\n";
+        return 1;
+    }
+    out << "wrote " << graphFile.string() << "\n";
+    const std::filesystem::path projectFile = o.out / "project.ztp";
+    VERSION_INFO version;
+    if (control.SaveKivFile(projectFile.string(), version) != 0) {
+        err << "ztgraph demo: cannot write " << projectFile.string() << "\n";
+        return 1;
+    }
+    out << "wrote " << projectFile.string() << "\n";
     return 0;
 }
 

@@ -16,6 +16,8 @@ constexpr Command kCommands[] = {
     {"demo", zt::cli::runDemo, "capture a drive run on the simulated host and write its graph"},
     {"show", zt::cli::runShow, "build the control on the simulated host and print its surface"},
     {"render", zt::cli::runRender, "draw a simulated drive run to a PNG, SVG or PDF file"},
+    {"export-csv", zt::cli::runExportCsv, "write one graph of a graph text file as CSV"},
+    {"info", zt::cli::runInfo, "load a graph text file or project block and print its state"},
 };
 
 void usage(std::ostream& out) {

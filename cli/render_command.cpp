@@ -4,11 +4,14 @@
 #include <cctype>
 #include <cmath>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "cli/arguments.h"
+#include "cli/capture_setup.h"
 #include "cli/commands.h"
+#include "control/graph_control.h"
 #include "core/chart_refs.h"
 #include "core/conversion_table.h"
 #include "core/graph_state.h"
@@ -16,6 +19,7 @@
 #include "graph/plot_graph.h"
 #include "render/render_chart.h"
 #include "sim/drive_waveforms.h"
+#include "sim/sim_common_library.h"
 
 namespace zt::cli {
 
@@ -23,7 +27,9 @@ namespace {
 
 constexpr std::string_view kUsage =
     "usage: ztgraph render --out FILE.png|svg|pdf [--width W --height H]\n"
-    "                      [--scenario typical|fault|servo]\n";
+    "                      [--scenario typical|fault|servo]\n"
+    "       ztgraph render --from FILE.gp3 [--slot N] [--overlay M] --out FILE.png|svg|pdf\n"
+    "                      [--width W --height H]\n";
 
 struct ChannelPlan {
     int32_t item = kNoneItem;
@@ -83,8 +89,40 @@ int32_t firstRise(const std::vector<SampleRecord>& records, int bit) {
 
 }  // namespace
 
+// A saved graph as the control shows it: the file imported, history graph `slot` picked and
+// history graph `overlay` (0 none) laid over it.
+int renderSavedGraph(const std::string& from, int slot, int overlay, const std::string& path,
+                     render::Format format, const render::RenderOptions& options, std::ostream& out,
+                     std::ostream& err) {
+    sim::SimCommonLibrary library;
+    auto control = std::make_unique<ztGraphControl>(library);
+    connectToLink(*control, library);
+    SYS_INFO sys;
+    if (control->ImportFile(from, sys) != 0) {
+        err << "ztgraph render: cannot read " << from << "\n";
+        return 1;
+    }
+    GraphSurface& s = control->surface();
+    for (auto& box : s.chkOverWrite)
+        if (box.value() != ui::kUnchecked) box.setValue(ui::kUnchecked);
+    s.optHistory[slot - 1].setValue(false);
+    s.optHistory[slot - 1].setValue(true);
+    if (overlay >= 1) s.chkOverWrite[overlay - 1].setValue(ui::kChecked);
+    const render::RenderStatus status =
+        render::renderChart(control->chartRoot(), options, path, format);
+    if (!status) {
+        err << "ztgraph render: " << status.error << "\n";
+        return 1;
+    }
+    out << "wrote " << path << "\n";
+    return 0;
+}
+
 int runRender(const Args& args, std::ostream& out, std::ostream& err) {
     std::string path;
+    std::string from;
+    int shownSlot = 1;
+    int overlay = 0;
     render::RenderOptions options;
     sim::DriveScenario scenario = sim::DriveScenario::Typical;
     for (size_t i = 0; i < args.size(); ++i) {
@@ -100,6 +138,15 @@ int runRender(const Args& args, std::ostream& out, std::ostream& err) {
         const std::string& v = args[++i];
         if (a == "--out") {
             path = v;
+        } else if (a == "--from") {
+            from = v;
+        } else if (a == "--slot" || a == "--overlay") {
+            const auto n = wholeNumberArg(v, a == "--slot" ? 1 : 0, 5);
+            if (!n) {
+                err << "ztgraph render: " << a << " takes a history graph 1 to 5\n";
+                return 2;
+            }
+            (a == "--slot" ? shownSlot : overlay) = *n;
         } else if (a == "--width" || a == "--height") {
             const auto n = wholeNumberArg(v, 1, 20000);
             if (!n) {
@@ -124,6 +171,8 @@ int runRender(const Args& args, std::ostream& out, std::ostream& err) {
         err << "ztgraph render: --out must name a .png, .svg or .pdf file\n" << kUsage;
         return 2;
     }
+    if (!from.empty())
+        return renderSavedGraph(from, shownSlot, overlay, path, *format, options, out, err);
 
     chart::ChartRoot root;
     const ChartRefs refs = lookupChartObjects(root);

@@ -28,6 +28,7 @@ ztGraphControl::ztGraphControl(CommonLibrary& library, HostEnvironment environme
       run_(state_, surface_, host_, [this](int32_t command) { ReqCommand.raise(command); }),
       sheets_(state_, host_, surface_.sprChannel, surface_.sprTrigger, surface_.sprSampling,
               surface_.lblHighSampItem, env_.locale),
+      history_(state_, surface_, host_, env_.locale.codePage),
       display_(state_, surface_, chart_, sheets_, host_, env_, [this] { return plotInputs(); }) {
     initialize();
 }
@@ -92,6 +93,7 @@ void ztGraphControl::initialize() {
 
     // 14, 15. Operation panel, showing the "Scale" panel.
     buildOperationPanel(s, host_, state_.version.lngHistoryMax);
+    history_.connect();
     s.tbsGraphOp.Click.connect([this] { showSelectedPanel(surface_); });
     s.tabSpread.Click.connect([this] { showSelectedSheets(surface_); });
     s.tbsGraphOp.MouseMove.connect([this](int16_t button, int16_t, float x, float y) {
@@ -257,11 +259,7 @@ void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER
 }
 
 void ztGraphControl::SetSysStatus(int16_t, SYS_INFO&, INV_STATUS&) {
-    for (auto& box : surface_.chkOverWrite) {
-        const int slot = box.Index() + 1;
-        if (slot < kHistorySlots && box.Index() < state_.version.lngHistoryMax)
-            box.ToolTipText = state_.history.strTimeStamps[static_cast<std::size_t>(slot)];
-    }
+    history_.refreshToolTips();
 }
 
 void ztGraphControl::showComErrDlg(int32_t lngNode, int32_t lngErrCode) {

@@ -23,6 +23,7 @@
 #include "platform/host_records.h"
 #include "platform/ui/event.h"
 #include "run/run_control.h"
+#include "store/history_display.h"
 
 namespace zt {
 
@@ -101,6 +102,8 @@ class ztGraphControl {
 
     // Run control and the hooks through which it reaches the other subsystems.
     RunControl& run() { return run_; }
+    // History controls (option row, overwrite boxes, labels, comment box).
+    HistoryDisplay& history() { return history_; }
 
     // What a person and a test can see and touch.
     GraphSurface& surface() { return surface_; }
@@ -132,6 +135,14 @@ class ztGraphControl {
     void prepareDisplayForRun();
     // Draws the newest graph with its axes.
     void showGraph();
+    // After an import or project load: sheets, scroll range, scale panel, history selection,
+    // cursor controls, then the display refresh below.
+    void applyLoadedState(int32_t scrollMax);
+    // Redraws scales, axes and cursors for the loaded display state.
+    void refreshDisplayAfterLoad();
+    // The first loaded channel whose station or item the host does not offer (after its
+    // message), or 0.
+    int firstChannelInError();
 
     HostEnvironment env_;
     HostServices host_;
@@ -139,6 +150,7 @@ class ztGraphControl {
     GraphSurface surface_;
     RunControl run_;
     SettingSheets sheets_;
+    HistoryDisplay history_;
     chart::ChartRoot CBGraph1;
     ChartRefs chart_;
     GraphDisplay display_;

@@ -67,7 +67,20 @@ void ztGraphControl::linkSubsystems() {
     run.enterNewGraph = [this] {
         showGraph();
         const std::string stamp = text::dateTimeText(text::localTime(env_.now()), env_.locale);
-        enterNewGraph(state_, stamp, sheets_.ReturnChCount());
+        history_.afterNewGraph(enterNewGraph(state_, stamp, sheets_.ReturnChCount()));
+    };
+    run.refreshHistoryDisplay = [this] { history_.refresh(); };
+
+    HistoryHooks& history = history_.hooks();
+    history.drawSlot = [this](int slot, int kind) {
+        const PlotInputs in = plotInputs();
+        drawGraph(chart_, state_, in, slot, kind);
+    };
+    history.clearOverlay = [this] {
+        for (int c = 5; c <= 8; ++c) {
+            chart_.plotData[c]->setPointCount(0);
+            chart_.pulseData[c]->setPointCount(0);
+        }
     };
     run.clearAllGraphs = [this] { clearAllGraphs(chart_, state_); };
     run.graphNeedsScrolling = [this] {

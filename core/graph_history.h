@@ -1,5 +1,6 @@
 // The graphs the component holds: slot 0 is the newest result, slots 1 to 5 the history.
-// Every slot always holds 10,000 sample records, a comment and a time stamp.
+// Every slot always holds 10,000 sample records and a comment, which starts as the date and
+// time the graph was finished.
 #pragma once
 
 #include <array>
@@ -23,8 +24,7 @@ struct GraphHistory {
     }
     std::array<GRAPH_RESULT_INFO, kHistorySlots> udtGraphResultInfo;
     std::array<std::string, kHistorySlots> strComments;
-    std::array<std::string, kHistorySlots> strTimeStamps;
-    int32_t lngGraphCount = 0;
+    int32_t lngGraphCount = 0;  // graphs entered since start-up (not saved)
 };
 
 }  // namespace zt

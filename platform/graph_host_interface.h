@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace zt {
 
@@ -17,8 +18,18 @@ class GraphHostSink {
     virtual void ReqCommand(int32_t command) = 0;
 };
 
-// The host's printer object as handed to PrintOut; its drawing surface is the printing
-// subsystem's concern.
-class PrinterObject;
+// Interface identifier of the platform's printer object.
+inline constexpr const char* kPrinterInterfaceId = "{33AD4F31-6699-11CF-B70C-00AA0060D393}";
+
+// An object handed to PrintOut as the host's printer: reference counted, and asked for the
+// printer interface by its identifier.
+class PrinterObject {
+  public:
+    virtual ~PrinterObject() = default;
+    virtual void AddRef() = 0;
+    virtual void Release() = 0;
+    // The object's interface `iid` with a reference taken, or nullptr when it has none.
+    virtual PrinterObject* QueryInterface(const std::string& iid) = 0;
+};
 
 }  // namespace zt

@@ -185,11 +185,13 @@ std::string SimCommon::GetProjectBlockName() {
 int32_t SimCommon::GetBlockWritePosition(const std::string& fileName,
                                          const std::string& blockName) {
     if (fileName.empty() || blockName != kProjectBlockName) return -1;
+    if (blockPosition_) return *blockPosition_;
     return kProjectBlockPosition;
 }
 
 int32_t SimCommon::GetBlockReadPosition(const std::string& fileName, const std::string& blockName) {
     if (fileName.empty() || blockName != kProjectBlockName) return -1;
+    if (blockPosition_) return *blockPosition_;
     std::error_code ec;
     const auto size = std::filesystem::file_size(fileName, ec);
     if (ec || size <= static_cast<std::uintmax_t>(kProjectHeaderBytes)) return -1;

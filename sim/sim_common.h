@@ -40,6 +40,10 @@ class SimCommon : public zt::ztCommon {
     SimLink& link() { return link_; }
     const SimLink& link() const { return link_; }
     void setLocale(const HostLocale& locale) { locale_ = locale; }
+    // A host whose project file keeps the component's block elsewhere: both block-position
+    // operations answer `position` (first byte 1, -1 for none) for any file; nullopt returns
+    // to the fixed header.
+    void setBlockPosition(std::optional<int32_t> position) { blockPosition_ = position; }
     // The host's message table; an entry overrides the component's built-in default text.
     void setMessage(int32_t number, std::string text) { messages_[number] = std::move(text); }
     void setMessages(std::map<int32_t, std::string> messages) { messages_ = std::move(messages); }
@@ -83,6 +87,7 @@ class SimCommon : public zt::ztCommon {
                       float yPixels) override;
 
   private:
+    std::optional<int32_t> blockPosition_;
     SimLink link_;
     HostLocale locale_;
     std::map<int32_t, std::string> messages_;

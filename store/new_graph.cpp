@@ -25,11 +25,9 @@ NewGraphOutcome enterNewGraph(GraphState& state, const std::string& stamp, int c
         for (int i = max - 1; i >= 1; --i) {
             std::swap(history.udtGraphResultInfo[i + 1], history.udtGraphResultInfo[i]);
             std::swap(history.strComments[i + 1], history.strComments[i]);
-            std::swap(history.strTimeStamps[i + 1], history.strTimeStamps[i]);
         }
         history.udtGraphResultInfo[1] = history.udtGraphResultInfo[0];
         history.strComments[1] = history.strComments[0];
-        history.strTimeStamps[1] = history.strTimeStamps[0];
     }
     if (shown.lngGraphTotal < max) ++shown.lngGraphTotal;
     ++history.lngGraphCount;

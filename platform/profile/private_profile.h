@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace zt::profile {
 
@@ -47,5 +48,10 @@ std::string getProfileString(const std::string& section, const std::string& key,
 
 bool writeProfileString(const std::string& section, const std::string& key,
                         const std::string& value, const std::string& fileName);
+
+// The bytes a file holding `text` has after WritePrivateProfileStringA set `key` in `section`
+// to `value` (section and key already trimmed).
+std::string editedProfileText(std::string_view text, std::string_view section, std::string_view key,
+                              std::string_view value);
 
 }  // namespace zt::profile

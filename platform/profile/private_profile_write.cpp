@@ -122,29 +122,41 @@ bool WritePrivateProfileStringA(const char* section, const char* key, const char
     // Deleting a section matches its name as given, blanks included, as listing its keys does.
     if (key == nullptr) return deleteSection(fileName, text, section);
 
-    const SectionLayout layout = locate(text, sectionName, keyName, true);
     if (value == nullptr) {
         // Deleting a key matches the section and key names as given, blanks included.
         const SectionLayout exact = locate(text, section, key, true);
         if (exact.keyBegin == kNone) return true;
         return replaceFile(fileName, {text.substr(0, exact.keyBegin), text.substr(exact.keyNext)});
     }
+    return replaceFile(fileName, {editedProfileText(text, sectionName, keyName, value)});
+}
+
+std::string editedProfileText(std::string_view text, std::string_view sectionName,
+                              std::string_view keyName, std::string_view value) {
+    const SectionLayout layout = locate(text, sectionName, keyName, true);
+    std::string out;
+    out.reserve(text.size() + sectionName.size() + keyName.size() + value.size() + 8);
+    const auto join = [&out](std::initializer_list<std::string_view> parts) {
+        for (const std::string_view part : parts)
+            out.append(part);
+        return std::move(out);
+    };
     if (layout.keyBegin != kNone) {
         // The line is rewritten with the file's spelling of the key and a CR LF.
-        return replaceFile(fileName, {text.substr(0, layout.keyBegin), layout.keyName, "=", value,
-                                      kLineEnd, text.substr(layout.keyNext)});
+        return join({text.substr(0, layout.keyBegin), layout.keyName, "=", value, kLineEnd,
+                     text.substr(layout.keyNext)});
     }
     if (layout.found) {
         // A new key goes right after the section's last key line, or after its header.
         const bool afterKey = layout.afterLastKey != kNone;
         const std::size_t at = afterKey ? layout.afterLastKey : layout.afterHeader;
         const bool precededByEnd = afterKey ? layout.lastKeyHasEnd : layout.headerHasEnd;
-        return replaceFile(fileName, {text.substr(0, at), precededByEnd ? "" : kLineEnd, keyName,
-                                      "=", value, kLineEnd, text.substr(at)});
+        return join({text.substr(0, at), precededByEnd ? "" : kLineEnd, keyName, "=", value,
+                     kLineEnd, text.substr(at)});
     }
     // A new section goes at the end of the file, with no blank line before it.
-    return replaceFile(fileName, {text, endsWithLineEnd(text) ? "" : kLineEnd, "[", sectionName,
-                                  "]", kLineEnd, keyName, "=", value, kLineEnd});
+    return join({text, endsWithLineEnd(text) ? "" : kLineEnd, "[", sectionName, "]", kLineEnd,
+                 keyName, "=", value, kLineEnd});
 }
 
 bool writeProfileString(const std::string& section, const std::string& key,

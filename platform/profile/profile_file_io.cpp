@@ -1,11 +1,15 @@
 #include "platform/profile/profile_file_io.h"
 
+#include <sys/stat.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <random>
 #include <system_error>
+
+#include "platform/profile/profile_read_cache.h"
 
 namespace zt::profile {
 
@@ -31,16 +35,29 @@ ReadResult readWholeFile(const char* fileName, std::string& content) {
     errno = 0;
     FilePtr file(std::fopen(fileName, "rb"));
     if (!file) return errno == ENOENT ? ReadResult::Missing : ReadResult::Failed;
+    // Devices and pipes are no profile files (a device such as /dev/full never ends).
+    struct stat before {};
+    if (fstat(fileno(file.get()), &before) != 0 || !S_ISREG(before.st_mode))
+        return ReadResult::Failed;
+    if (cachedContent(fileName, before, content)) return ReadResult::Ok;
     char chunk[64 * 1024];
     for (;;) {
         const std::size_t got = std::fread(chunk, 1, sizeof chunk, file.get());
         content.append(chunk, got);
         if (got < sizeof chunk) break;
     }
-    return std::ferror(file.get()) != 0 ? ReadResult::Failed : ReadResult::Ok;
+    if (std::ferror(file.get()) != 0) return ReadResult::Failed;
+    struct stat after {};
+    if (fstat(fileno(file.get()), &after) == 0 && after.st_size == before.st_size &&
+        after.st_mtim.tv_sec == before.st_mtim.tv_sec &&
+        after.st_mtim.tv_nsec == before.st_mtim.tv_nsec &&
+        content.size() == static_cast<std::size_t>(after.st_size))
+        rememberContent(fileName, after, content);
+    return ReadResult::Ok;
 }
 
 bool replaceFile(const char* fileName, std::initializer_list<std::string_view> parts) {
+    forgetContent(fileName);
     const std::string target(fileName);
     std::string temporary;
     FilePtr out;

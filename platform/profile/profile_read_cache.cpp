@@ -1,0 +1,55 @@
+#include "platform/profile/profile_read_cache.h"
+
+namespace zt::profile {
+
+namespace {
+
+struct CachedFile {
+    std::string name;
+    dev_t device = 0;
+    ino_t inode = 0;
+    off_t size = -1;
+    struct timespec modified {};
+    std::string content;
+};
+
+// One entry per thread: lookups of one import run on one thread, and nothing is shared.
+CachedFile& cache() {
+    thread_local CachedFile file;
+    return file;
+}
+
+bool sameFile(const CachedFile& c, const char* fileName, const struct stat& info) {
+    return c.size >= 0 && c.name == fileName && c.device == info.st_dev && c.inode == info.st_ino &&
+           c.size == info.st_size && c.modified.tv_sec == info.st_mtim.tv_sec &&
+           c.modified.tv_nsec == info.st_mtim.tv_nsec;
+}
+
+}  // namespace
+
+bool cachedContent(const char* fileName, const struct stat& info, std::string& content) {
+    const CachedFile& c = cache();
+    if (!sameFile(c, fileName, info)) return false;
+    content = c.content;
+    return true;
+}
+
+void rememberContent(const char* fileName, const struct stat& info, const std::string& content) {
+    CachedFile& c = cache();
+    c.name = fileName;
+    c.device = info.st_dev;
+    c.inode = info.st_ino;
+    c.size = info.st_size;
+    c.modified = info.st_mtim;
+    c.content = content;
+}
+
+void forgetContent(const char* fileName) {
+    CachedFile& c = cache();
+    if (c.name == fileName) {
+        c.size = -1;
+        c.content.clear();
+    }
+}
+
+}  // namespace zt::profile

@@ -1,0 +1,21 @@
+// The bytes of the profile file read last, kept with the file's identity, size and time stamp,
+// so that a run of lookups in one file (an import reads about a hundred keys) reads it from
+// disk once. Windows keeps a profile file cached between calls in the same way. Any change of
+// the file through these functions gives it a new identity; a change by another program shows
+// in its size or time stamp.
+#pragma once
+
+#include <string>
+
+#include <sys/stat.h>
+
+namespace zt::profile {
+
+// Copies the cached bytes into `content` when they belong to the file `info` describes.
+bool cachedContent(const char* fileName, const struct stat& info, std::string& content);
+// Keeps `content` as the bytes of the file `info` describes.
+void rememberContent(const char* fileName, const struct stat& info, const std::string& content);
+// Drops the cached bytes of `fileName`.
+void forgetContent(const char* fileName);
+
+}  // namespace zt::profile
