@@ -5,6 +5,9 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <string>
+
+#include <unistd.h>
 
 #include "cli/commands.h"
 
@@ -16,7 +19,8 @@ namespace fs = std::filesystem;
 class CliFilesTest : public ::testing::Test {
   protected:
     static void SetUpTestSuite() {
-        dir = fs::temp_directory_path() / "zt_cli_files";
+        // One folder per process: ctest runs the cases of this suite side by side.
+        dir = fs::temp_directory_path() / ("zt_cli_files_" + std::to_string(::getpid()));
         fs::remove_all(dir);
         std::ostringstream out, err;
         ASSERT_EQ(runDemo({"--out", dir.string()}, out, err), 0) << err.str();
