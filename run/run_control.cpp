@@ -108,11 +108,19 @@ void RunControl::cmdStart_Click() {
     clearWholeGraph_ = true;
     surface_.registry.mousePointer = ui::MousePointer::Hourglass;
     phase_ = RunPhase::Starting;
-    {
+    try {
         Raising raising(raisingStart_);
         raise_(kCommandStart);
+    } catch (...) {
+        // A handler that fails leaves no start half made.
+        if (phase_ == RunPhase::Starting) phase_ = RunPhase::Idle;
+        surface_.registry.mousePointer = ui::MousePointer::Default;
+        throw;
     }
-    if (terminated()) return;
+    if (terminated()) {
+        surface_.registry.mousePointer = ui::MousePointer::Default;
+        return;
+    }
     callHook(hooks_.redrawVertScaleLabels);
     // The host may have ended the start inside its handler (Stop, line offline, a reply that
     // completed the run): then the run is over already and Sampling is not entered.

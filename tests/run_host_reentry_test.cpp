@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <stdexcept>
 
 #include "run/run_states.h"
 #include "run_fixture.h"
@@ -165,6 +166,17 @@ TEST_F(HostReentry, TerminateInsideTheStartRequestEndsEverything) {
     control.SetSamplingData(data, 0);
     EXPECT_EQ(data.udtSample.size(), 150u);
     EXPECT_EQ(sink.commands, (std::vector<int32_t>{77}));
+}
+
+TEST_F(HostReentry, StartHandlerThatFailsLeavesTheControlReadyForTheNextStart) {
+    sink.actOn = kCommandStart;
+    sink.action = [] { throw std::runtime_error("host failure"); };
+    EXPECT_THROW(control.surface().cmdStart.click(), std::runtime_error);
+    EXPECT_EQ(control.runState(), OnlineReady);
+    EXPECT_FALSE(control.run().runInProgress());
+    control.surface().cmdStart.click();
+    EXPECT_EQ(sink.commands, (std::vector<int32_t>{77, 77}));
+    EXPECT_EQ(control.runState(), Sampling);
 }
 
 TEST_F(HostReentry, ContinuousRunHandsTheRestOfEachReplyToTheNextSweep) {
