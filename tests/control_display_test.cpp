@@ -78,19 +78,19 @@ TEST_P(DiscardedGraph, StaysOffTheChartAfterTheNextEdit) {
     EXPECT_FALSE(control.chartRefs().triggerCursor->Visible);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Ways, DiscardedGraph,
-    ::testing::Values(Discard{"NewStationTable",
-                              [](ztGraphControl& c, sim::SimCommonLibrary& lib) {
-                                  SYS_INFO sys = lib.sim().link().sysInfo();
-                                  PARAMETER_INFO parameter;
-                                  c.SetSysInfo(1, sys, parameter);
-                              }},
-                      Discard{"ClearConfirmed",
-                              [](ztGraphControl& c, sim::SimCommonLibrary&) {
-                                  c.surface().cmdClear.click();
-                              }}),
-    [](const ::testing::TestParamInfo<Discard>& p) { return p.param.name; });
+INSTANTIATE_TEST_SUITE_P(Ways, DiscardedGraph,
+                         ::testing::Values(Discard{"NewStationTable",
+                                                   [](ztGraphControl& c,
+                                                      sim::SimCommonLibrary& lib) {
+                                                       SYS_INFO sys = lib.sim().link().sysInfo();
+                                                       PARAMETER_INFO parameter;
+                                                       c.SetSysInfo(1, sys, parameter);
+                                                   }},
+                                           Discard{"ClearConfirmed",
+                                                   [](ztGraphControl& c, sim::SimCommonLibrary&) {
+                                                       c.surface().cmdClear.click();
+                                                   }}),
+                         [](const ::testing::TestParamInfo<Discard>& p) { return p.param.name; });
 
 TEST_F(DisplayTest, RunDrawsTimeBaseAndLabelsWithEveryReply) {
     control.surface().cmdStart.click();
