@@ -81,6 +81,9 @@ TEST_P(StateEnabling, SurfaceFollowsTheStateTable) {
     f.control.state().graphInfo.intChNumber = 1;
     f.control.surface().chkCursor.setValue(ui::kChecked);
     f.control.surface().lblHistValue[0].Caption = "kept";
+    f.control.surface().optHistory[1].setValue(true);
+    f.control.surface().chkOverWrite[1].setValue(ui::kChecked);
+    f.statusTexts.clear();
     f.control.state().runState = e.from;
     f.control.run().changeRunState(e.event);
     ASSERT_EQ(f.control.runState(), e.state);
@@ -105,6 +108,12 @@ TEST_P(StateEnabling, SurfaceFollowsTheStateTable) {
         EXPECT_EQ(box.Enabled, box.Index() < e.history) << box.Index();
     const bool emptied = e.state <= 1 || e.state == 3 || e.state == 4;
     EXPECT_EQ(s.lblHistValue[0].Caption.empty(), emptied);
+    EXPECT_EQ(s.optHistory[1].value(), !emptied);
+    EXPECT_EQ(s.chkOverWrite[1].value() == ui::kChecked, !emptied);
+    const bool graphState = e.state == 2 || e.state == 5;
+    // The fixture records a hidden status label as an empty text.
+    EXPECT_EQ(f.statusTexts,
+              graphState ? std::vector<std::string>{""} : std::vector<std::string>{});
     EXPECT_EQ(s.txtComment.Enabled, e.comment);
     EXPECT_EQ(s.txtComment.BackColor, e.comment ? ui::kColorWindow : ui::kColorButtonFace);
     EXPECT_EQ(s.cmdOptVert.Enabled, e.optimize);
