@@ -58,7 +58,8 @@ void SettingSheets::buildChannelSheet() {
     s.ComboSelChange.connect([this](int col, int row) { onChannelListChanged(col, row); });
     s.KeyDown.connect([this](int& key, int) { onChannelKeyDown(key); });
     s.Click.connect([this](int col, int) {
-        if (state_.runState >= 0 && state_.runState <= 5 && col >= 1 && col <= kChannelCount) {
+        if (!state_.terminated && state_.runState >= 0 && state_.runState <= 5 && col >= 1 &&
+            col <= kChannelCount) {
             makeCurrent(col);
         }
     });
@@ -237,8 +238,8 @@ void SettingSheets::onChannelKeyDown(int key) {
         for (int c = 1; c <= kChannelCount; ++c)
             refreshItems(c);
         recomputeDependents();
-    } else if ((key == ui::kKeyLeft || key == ui::kKeyRight) && state_.runState >= 0 &&
-               state_.runState <= 5) {
+    } else if ((key == ui::kKeyLeft || key == ui::kKeyRight) && !state_.terminated &&
+               state_.runState >= 0 && state_.runState <= 5) {
         const int col = sprChannel_.ActiveCol();
         makeCurrent(col >= 1 && col <= kChannelCount ? col : 0);
     }

@@ -32,6 +32,7 @@ std::string SettingSheets::noValue() const {
 }
 
 bool SettingSheets::editable() const {
+    if (state_.terminated) return false;
     const int16_t s = state_.runState;
     return s == 0 || s == 1 || s == 3 || s == 4;
 }
@@ -53,22 +54,30 @@ void SettingSheets::build() {
         sheet->SetReDraw(true);
 }
 
-void SettingSheets::showSettings() {
+void SettingSheets::showSettings(bool keepPartnerMemory) {
     for (int c = 1; c <= kChannelCount; ++c) {
         CHSETTING& ch = state_.chSetting[static_cast<size_t>(c)];
         sprChannel_.setBackColor(c, kRowColor, ch.lngGraphColor);
         sprChannel_.setText(c, kRowStation, stationText(ch.lngTargetNo, none()));
-        state_.twoChannel[static_cast<size_t>(c)] = PartnerMemory{};
+        if (!keepPartnerMemory) state_.twoChannel[static_cast<size_t>(c)] = PartnerMemory{};
     }
     for (int c = 1; c <= kChannelCount; ++c)
         refreshItems(c);
-    // A two-channel item held by a loaded setting takes its partner over again.
+    // A two-channel item held by the settings takes its partner over (again).
+    bool released = false;
     for (int c : {1, 3}) {
+        PartnerMemory& memory = state_.twoChannel[static_cast<size_t>(c + 1)];
         if (isBuiltInName(sprChannel_.text(c, kRowName))) {
-            state_.twoChannel[static_cast<size_t>(c + 1)].held = true;
+            memory.held = true;
             refillNameList(c + 1);
+        } else if (memory.held) {
+            // The item left channel c with its station: the partner gets back what it showed.
+            sprChannel_.setLocked(c + 1, kRowName, true);
+            twoChannelProcedure(c);
+            released = true;
         }
     }
+    if (released) takeChannelSheet();
     applyChannelLocks();
     showTriggerSettings();
     showSamplingSettings();

@@ -29,8 +29,10 @@ class SettingSheets {
     // and connects the sheet events. Drawing is switched back on at the end.
     void build();
     // Shows the settings as they are held (after initialize or a load): stations, item lists
-    // and names, trigger and sampling rows, the high-speed station rule and note.
-    void showSettings();
+    // and names, trigger and sampling rows, the high-speed station rule and note. A refresh of
+    // the same settings (new station table) keeps what the two-channel items remember of their
+    // partners; a load forgets it.
+    void showSettings(bool keepPartnerMemory = false);
     // Run states without editing lock every cell; unlocking makes the editable cells writable
     // again as the settings allow.
     void setSheetsLocked(bool locked);

@@ -269,31 +269,29 @@ void SettingSheets::takeTriggerRow(int row) {
     }
 }
 
-// "Not used" keeps its "---" rows: there is no level to take.
+// Every type is re-evaluated: "Not used" too shows 0 for the "---" it was given.
 void SettingSheets::reevaluateLevel() {
     ui::SpreadSheet& s = sprTrigger_;
     SAMPSETTING& set = state_.sampSetting;
     s.setLocked(1, kTriggerRowLevel, true);
-    if (set.intTriggerType != kTriggerNotUsed) {
-        const auto level = text::parseNumber(s.text(1, kTriggerRowLevel), locale_);
-        if (!level) {
-            s.setNumber(1, kTriggerRowLevel, 0);
-            set.dblTriggerLevel = 0;
-        } else if (set.intTriggerType == kTriggerInside) {
-            const int target = set.intTriggerTarget;
-            if (target >= 1 && target <= kChannelCount && channelIsSet(target) &&
-                state_.chSetting[static_cast<size_t>(target)].intAD == 0) {
-                s.setLocked(1, kTriggerRowLevel, false);
-                set.dblTriggerLevel = *level;
-            }
+    const auto level = text::parseNumber(s.text(1, kTriggerRowLevel), locale_);
+    if (!level) {
+        s.setNumber(1, kTriggerRowLevel, 0);
+        set.dblTriggerLevel = 0;
+    } else if (set.intTriggerType == kTriggerInside) {
+        const int target = set.intTriggerTarget;
+        if (target >= 1 && target <= kChannelCount && channelIsSet(target) &&
+            state_.chSetting[static_cast<size_t>(target)].intAD == 0) {
+            s.setLocked(1, kTriggerRowLevel, false);
+            set.dblTriggerLevel = *level;
         }
     }
     s.setText(0, kTriggerRowLevel, host_.text(msg::kLevel));
 }
 
+// The position rule holds for every type: "---" under "Not used" becomes 10.
 void SettingSheets::takePosition() {
     SAMPSETTING& set = state_.sampSetting;
-    if (set.intTriggerType == kTriggerNotUsed) return;
     const float position =
         triggerPositionFrom(text::parseNumber(sprTrigger_.text(1, kTriggerRowPosition), locale_));
     set.sngTriggerPosition = position;

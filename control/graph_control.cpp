@@ -9,6 +9,7 @@
 #include "graph/chart_setup.h"
 #include "graph/plot_graph.h"
 #include "graph/surface_layout.h"
+#include "platform/text/code_page.h"
 
 namespace zt {
 
@@ -129,10 +130,12 @@ void ztGraphControl::initialize() {
 }
 
 void ztGraphControl::Show() {
+    if (terminated()) return;
     display_.redrawVertScales();
 }
 
 void ztGraphControl::Resize() {
+    if (terminated()) return;
     width_ = clampedSize(width_);
     height_ = clampedSize(height_);
     resizeSurface(surface_, width_, height_, env_);
@@ -140,35 +143,55 @@ void ztGraphControl::Resize() {
 }
 
 void ztGraphControl::SetGraphColor(int32_t lngMode) {
+    if (terminated()) return;
     display_.setGraphColor(lngMode);
 }
 
+// Terminate saves nothing and raises nothing. It ends the control's working life at once: the
+// host's sink is disconnected, every control on the surface is disabled so that no person's
+// action reaches a handler, and the chart references are released. The terminated flag lives
+// in the shared state, so the run control, the sheets and every hook see it too: dispatch
+// refuses every member, the public members do nothing (or answer what they hold), and the
+// handlers and hooks return before they touch the chart.
 void ztGraphControl::Terminate() {
-    // Saves nothing and raises nothing; the references it held are dropped with the control.
+    if (terminated()) return;
+    state_.terminated = true;
     ReqCommand.disconnect();
+    for (ui::ControlBase* control : surface_.registry.controls())
+        control->Enabled = false;
     chart_ = ChartRefs{};
-    terminated_ = true;
 }
 
+// The file name goes to the private-profile functions in the host's code page, like every
+// other text.
 bool ztGraphControl::GetInifileString(const std::string& IniFile, const std::string& iniSection,
                                       const std::string& iniEntry, std::string& iniBuff) {
-    return zt::GetInifileString(IniFile, iniSection, iniEntry, iniBuff, env_.locale.codePage);
+    if (terminated()) return false;
+    const int codePage = env_.locale.codePage;
+    return zt::GetInifileString(text::toAnsi(IniFile, codePage), iniSection, iniEntry, iniBuff,
+                                codePage);
 }
 
 bool ztGraphControl::SetInifileString(const std::string& IniFile, const std::string& iniSection,
                                       const std::string& iniEntry, std::string& iniBuff) {
-    return zt::SetInifileString(IniFile, iniSection, iniEntry, iniBuff, env_.locale.codePage);
+    if (terminated()) return false;
+    const int codePage = env_.locale.codePage;
+    return zt::SetInifileString(text::toAnsi(IniFile, codePage), iniSection, iniEntry, iniBuff,
+                                codePage);
 }
 
 void ztGraphControl::SetMsgItem(std::vector<MSG_ITEM>& udtMsgItem) {
+    if (terminated()) return;
     sheets_.SetMsgItem(udtMsgItem);
 }
 
 void ztGraphControl::SetIniFileItem(INIFILE_ITEM& udtIniFileItem) {
+    if (terminated()) return;
     sheets_.SetIniFileItem(udtIniFileItem);
 }
 
 void ztGraphControl::SetMonitorItem(MONI_ITEM& udtMoniItem, int32_t lngCh) {
+    if (terminated()) return;
     sheets_.SetMonitorItem(udtMoniItem, lngCh);
 }
 
@@ -187,11 +210,13 @@ void ztGraphControl::QueryUnLoadU(int16_t&, int16_t) {}
 void ztGraphControl::setCommonObj(ztCommon*) {}
 
 void ztGraphControl::HeightU(float value) {
+    if (terminated()) return;
     height_ = clampedSize(value);
     Resize();
 }
 
 void ztGraphControl::WidthU(float value) {
+    if (terminated()) return;
     width_ = clampedSize(value);
     Resize();
 }
@@ -225,7 +250,7 @@ void ztGraphControl::FontU(const Font&) {}
 void ztGraphControl::setContainerInfo(CONT_INFO&) {}
 
 void ztGraphControl::advise(GraphHostSink* sink) {
-    if (sink == nullptr) {
+    if (sink == nullptr || terminated()) {
         ReqCommand.disconnect();
         return;
     }
@@ -233,6 +258,7 @@ void ztGraphControl::advise(GraphHostSink* sink) {
 }
 
 void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER_INFO&) {
+    if (terminated()) return;
     state_.selectedNode = intNode;
     int32_t value = 0, count = 0;
     host_.common().FillStationTable(state_.stations, udtSysInfo, value, count);
@@ -249,7 +275,7 @@ void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER
     }
     // Station cells and rows; a channel whose station is no longer present loses it.
     sheets_.refreshStationLists();
-    sheets_.showSettings();
+    sheets_.showSettings(true);
     showSelectedSheets(surface_);
     // The displayed graph is discarded and the control returns to its ready state.
     clearDisplayedGraph(chart_, state_);
@@ -259,10 +285,12 @@ void ztGraphControl::SetSysInfo(int16_t intNode, SYS_INFO& udtSysInfo, PARAMETER
 }
 
 void ztGraphControl::SetSysStatus(int16_t, SYS_INFO&, INV_STATUS&) {
+    if (terminated()) return;
     history_.refreshToolTips();
 }
 
 void ztGraphControl::showComErrDlg(int32_t lngNode, int32_t lngErrCode) {
+    if (terminated()) return;
     zt::showComErrDlg(host_, lngNode, lngErrCode);
 }
 

@@ -81,6 +81,7 @@ class ztGraphControl {
 
     // Sampling runs and the host exchange.
     void SetSysStatus(int16_t intNode, SYS_INFO& udtSysInfo, INV_STATUS& udtInvStatus);
+    // The run members below refuse by themselves after Terminate.
     void ChgLineStatus(int16_t intstatus) { run_.ChgLineStatus(intstatus); }
     void SetSamplingData(GRAPH_RESULT_INFO& udtGraphResultInfo, int32_t lngErrCode) {
         run_.SetSamplingData(udtGraphResultInfo, lngErrCode);
@@ -113,7 +114,8 @@ class ztGraphControl {
     SettingSheets& settingSheets() { return sheets_; }
     const HostEnvironment& environment() const { return env_; }
     int16_t runState() const { return state_.runState; }
-    bool terminated() const { return terminated_; }
+    // Terminate has run: the control does nothing more (see Terminate).
+    bool terminated() const { return state_.terminated; }
     // The chart and the references the control took to its objects.
     chart::ChartRoot& chartRoot() { return CBGraph1; }
     const chart::ChartRoot& chartRoot() const { return CBGraph1; }
@@ -143,6 +145,9 @@ class ztGraphControl {
     // The first loaded channel whose station or item the host does not offer (after its
     // message), or 0.
     int firstChannelInError();
+    // The chart shows a graph: the time-base series holds points (a run's replies, a finished
+    // or loaded graph); nothing after a discard or before the first sample.
+    bool graphShown() const;
 
     HostEnvironment env_;
     HostServices host_;
@@ -157,7 +162,6 @@ class ztGraphControl {
     PlotInputs sweepInputs_;  // plot inputs of the sweep being sampled
     float width_ = kMinControlSize;
     float height_ = kMinControlSize;
-    bool terminated_ = false;
 };
 
 }  // namespace zt

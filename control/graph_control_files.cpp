@@ -18,6 +18,7 @@
 namespace zt {
 
 int16_t ztGraphControl::ExportFile(const std::string& strFileName) {
+    if (terminated()) return -1;
     const int16_t rs = state_.runState;
     if (rs != OnlineReady && rs != OnlineGraph && rs != OfflineReady && rs != OfflineGraph)
         return 0;
@@ -29,6 +30,7 @@ int16_t ztGraphControl::ExportFile(const std::string& strFileName) {
 }
 
 int16_t ztGraphControl::ImportFile(const std::string& strFileName, SYS_INFO&) {
+    if (terminated()) return -1;
     const int16_t rs = state_.runState;
     if (rs < OnlineNoChannel || rs > OfflineGraph) return -1;
     if (state_.graphInfo.udtHistoryState.lngGraphTotal > 0) {
@@ -125,6 +127,7 @@ void ztGraphControl::refreshDisplayAfterLoad() {
 }
 
 int16_t ztGraphControl::SaveKivFile(const std::string& strFileName, VERSION_INFO&) {
+    if (terminated()) return -1;
     ztCommon& common = host_.common();
     const std::string block = common.GetProjectBlockName();
     const int32_t position = common.GetBlockWritePosition(strFileName, block);
@@ -134,6 +137,7 @@ int16_t ztGraphControl::SaveKivFile(const std::string& strFileName, VERSION_INFO
 
 int16_t ztGraphControl::LoadKivFile(const std::string& strFileName, VERSION_INFO&,
                                     PROGRAM_VERSION& udtProgramVersion) {
+    if (terminated()) return -1;
     resetWholeState(state_);
     ztCommon& common = host_.common();
     const std::string block = common.GetProjectBlockName();
@@ -159,6 +163,7 @@ int16_t ztGraphControl::LoadKivFile(const std::string& strFileName, VERSION_INFO
 }
 
 void ztGraphControl::PrintOut(PrinterObject* objPrinter) {
+    if (terminated()) return;
     printOut(objPrinter);
 }
 

@@ -99,6 +99,8 @@ inline constexpr int32_t kDispOk = 0;
 inline constexpr int32_t kDispMemberNotFound = static_cast<int32_t>(0x80020003);
 inline constexpr int32_t kDispTypeMismatch = static_cast<int32_t>(0x80020005);
 inline constexpr int32_t kDispBadParamCount = static_cast<int32_t>(0x8002000E);
+// The object has disconnected from its clients: any call after Terminate.
+inline constexpr int32_t kDispDisconnected = static_cast<int32_t>(0x80010108);
 
 struct DispatchResult {
     int32_t status = kDispOk;  // kDispOk, a refusal code, or the error code of a failed call

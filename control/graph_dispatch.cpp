@@ -248,6 +248,10 @@ DispatchResult dispatch(ztGraphControl& control, int32_t dispId, DispatchKind ki
     if ((member->kinds & kindBit(kind)) == 0)
         return refused(kDispMemberNotFound,
                        std::string(member->name) + " cannot be called this way");
+    // A terminated control answers nothing: every member is refused, whatever it is.
+    if (control.terminated())
+        return refused(kDispDisconnected,
+                       std::string(member->name) + ": the control has been terminated");
     Args a(args, member->name);
     try {
         return call(control, *member, kind, a);

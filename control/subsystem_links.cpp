@@ -24,7 +24,11 @@ constexpr int16_t kAttrZeroOnFault = 9;
 
 void ztGraphControl::linkSubsystems() {
     sheets_.hooks.runEvent = [this](int16_t event) { run_.changeRunState(event); };
-    sheets_.hooks.redrawGraph = [this] { showGraph(); };
+    // An edit redraws the graph only while one is shown: a discarded or never-sampled graph
+    // stays off the chart.
+    sheets_.hooks.redrawGraph = [this] {
+        if (graphShown()) showGraph();
+    };
     sheets_.hooks.currentChannelChanged = [this](int channel) {
         display_.currentChannelChanged(channel);
     };
@@ -56,14 +60,18 @@ void ztGraphControl::linkSubsystems() {
     // The settings are locked while sampling and the request is complete before the first
     // reply, so a sweep's plot inputs are read once, at its first records.
     run.drawNewRecords = [this](int first, int last) {
+        if (!chart_.held()) return;
         if (first == 0) sweepInputs_ = plotInputs();
         drawNewRecords(chart_, state_, sweepInputs_, first, last);
     };
     run.showStatusLabel = [this](const std::string& text) {
+        if (!chart_.held()) return;
         chart_.triggerStateLabel->Text = text;
         chart_.triggerStateLabel->Visible = true;
     };
-    run.hideStatusLabel = [this] { chart_.triggerStateLabel->Visible = false; };
+    run.hideStatusLabel = [this] {
+        if (chart_.held()) chart_.triggerStateLabel->Visible = false;
+    };
     run.enterNewGraph = [this] {
         showGraph();
         const std::string stamp = text::dateTimeText(text::localTime(env_.now()), env_.locale);
@@ -85,7 +93,7 @@ void ztGraphControl::linkSubsystems() {
     run.clearAllGraphs = [this] { clearAllGraphs(chart_, state_); };
     run.graphNeedsScrolling = [this] {
         const double shown = state_.graphInfo.udtHorzScale.sngHorzScale * 10.0;
-        return chart_.timeBase->pointCount() > 0 && shown < state_.sampSetting.dblSamplingTime;
+        return graphShown() && shown < state_.sampSetting.dblSamplingTime;
     };
 }
 
@@ -113,7 +121,12 @@ ConversionTable ztGraphControl::conversionTable() {
     return buildConversionTable(state_.chSetting, state_.sampData, plotInputs());
 }
 
+bool ztGraphControl::graphShown() const {
+    return chart_.held() && chart_.timeBase->pointCount() > 0;
+}
+
 void ztGraphControl::prepareDisplayForRun() {
+    if (!chart_.held()) return;
     const PlotInputs in = plotInputs();
     const int16_t speed = state_.sampSetting.intSamplingSpeed;
     for (int c = 1; c <= kChannelCount; ++c) {
@@ -134,6 +147,7 @@ void ztGraphControl::prepareDisplayForRun() {
 }
 
 void ztGraphControl::showGraph() {
+    if (!chart_.held()) return;
     const PlotInputs in = plotInputs();
     display_.redrawVertScales();
     applyTimeAxis(chart_, state_.graphInfo.udtHorzScale);

@@ -33,6 +33,9 @@ struct ChartRefs {
     chart::Line* edgeLineA = nullptr;
     chart::Label* triggerStateLabel = nullptr;
 
+    // The references are held: taken from a chart and not released by Terminate.
+    bool held() const { return root != nullptr; }
+
     // The series of channel 1-8 in graph kind 0 (displayed) or 1 (overlay).
     chart::Series& series(int channel, int kind) const {
         return channel <= 4 ? *plotData[static_cast<size_t>(kind * 4 + channel)]

@@ -61,6 +61,9 @@ struct GraphState {
     std::array<std::string, 3> twoChannelItemNames;
 
     int32_t helpContextId = kHelpContextId;
+
+    // Set once by Terminate: from then on no member, handler or hook changes anything.
+    bool terminated = false;
 };
 
 }  // namespace zt

@@ -17,6 +17,12 @@ namespace d = chart::design;
 // Value of the time-base series, at the bottom of its axis.
 constexpr int16_t kTimeBaseValue = -125;
 
+// Values of the time-base series for any index range.
+const std::vector<double>& timeBaseValues() {
+    static const std::vector<double> values(static_cast<size_t>(kGraphRecords), kTimeBaseValue);
+    return values;
+}
+
 bool validSlot(int slot) {
     return slot >= 0 && slot < kHistorySlots;
 }
@@ -71,7 +77,8 @@ void placeTriggerMark(const ChartRefs& refs, const GraphState& state, const Plot
 
 void drawGraph(const ChartRefs& refs, GraphState& state, const PlotInputs& inputs, int slot,
                int kind) {
-    if (!validSlot(slot) || (kind != kDisplayedGraph && kind != kOverlayGraph)) return;
+    if (!refs.held() || !validSlot(slot) || (kind != kDisplayedGraph && kind != kOverlayGraph))
+        return;
     const ConversionTable table = buildConversionTable(state.chSetting, state.sampData, inputs);
     convertSamples(state.history.udtGraphResultInfo[static_cast<size_t>(slot)].udtSample, table,
                    state.sampData);
@@ -98,6 +105,7 @@ void drawGraph(const ChartRefs& refs, GraphState& state, const PlotInputs& input
 
 void drawNewRecords(const ChartRefs& refs, GraphState& state, const PlotInputs& inputs, int first,
                     int last) {
+    if (!refs.held()) return;
     const auto& records = state.history.udtGraphResultInfo[0].udtSample;
     last = std::min({last, kGraphRecords, static_cast<int>(records.size())});
     if (first < 0 || first >= last) return;
@@ -118,11 +126,17 @@ void drawNewRecords(const ChartRefs& refs, GraphState& state, const PlotInputs& 
         series.setPointRange(first, last, data.sngSamplingData.data(),
                              data.sngSamplingTimeByInv.data());
     }
+    // The time base grows with the graph; a new sweep starts it afresh. Labels and the trigger
+    // mark follow every reply.
+    refs.timeBase->setPointRange(first, last, timeBaseValues().data(),
+                                 state.sampData[1].sngSamplingTimeByInv.data());
+    placeChannelLabels(refs, state, inputs, kDisplayedGraph);
+    placeTriggerMark(refs, state, inputs, 0);
 }
 
 void placeChannelLabels(const ChartRefs& refs, const GraphState& state, const PlotInputs& inputs,
                         int kind) {
-    if (kind != kDisplayedGraph && kind != kOverlayGraph) return;
+    if (!refs.held() || (kind != kDisplayedGraph && kind != kOverlayGraph)) return;
     if (refs.timeBase->pointCount() > 0) {
         for (int c = 1; c <= 8; ++c) {
             chart::Series& series = refs.series(c, kind);
@@ -133,10 +147,14 @@ void placeChannelLabels(const ChartRefs& refs, const GraphState& state, const Pl
     const double minimum = refs.timeAxis->Minimum;
     const double perDiv = state.graphInfo.udtHorzScale.sngHorzScale;
     const std::vector<double>& times = state.sampData[1].sngSamplingTimeByInv;
+    // While a run is drawn the times are valid up to the points drawn so far.
+    const int32_t drawn = refs.timeBase->pointCount();
+    const int32_t searched = drawn > 0 ? drawn : kGraphRecords;
     std::array<int32_t, 9> at{};
     for (int n = 1; n <= 8; ++n) {
         auto& l = at[static_cast<size_t>(n)];
-        l = findSampleInTimeRange(times, minimum + n * perDiv, minimum + (n + 1) * perDiv);
+        l = findSampleInTimeRange(times, minimum + n * perDiv, minimum + (n + 1) * perDiv,
+                                  searched);
         if (n >= 2 && l == 0) l = at[1];
     }
     for (int c = 1; c <= 8; ++c) {
@@ -155,10 +173,13 @@ void placeChannelLabels(const ChartRefs& refs, const GraphState& state, const Pl
     }
 }
 
-int32_t findSampleInTimeRange(const std::vector<double>& times, double from, double to) {
-    if (times.empty()) return 0;
+int32_t findSampleInTimeRange(const std::vector<double>& times, double from, double to,
+                              int32_t count) {
+    const size_t n = std::min({times.size(), static_cast<size_t>(kGraphRecords),
+                               static_cast<size_t>(std::max(count, 0))});
+    if (n == 0) return 0;
     double lower = 0;
-    double upper = static_cast<double>(std::min<size_t>(times.size(), kGraphRecords) - 1);
+    double upper = static_cast<double>(n - 1);
     while (lower <= upper) {
         const double mid = (lower + upper) / 2;
         // Rounding to the nearest integer, ties to even.
@@ -175,12 +196,13 @@ int32_t findSampleInTimeRange(const std::vector<double>& times, double from, dou
 }
 
 void clearDisplayedGraph(const ChartRefs& refs, GraphState& state) {
+    state.history.strComments[0].clear();
+    if (!refs.held()) return;
     for (int s = 1; s <= 8; ++s) {
         refs.plotData[static_cast<size_t>(s)]->setPointCount(0);
         refs.pulseData[static_cast<size_t>(s)]->setPointCount(0);
     }
     refs.timeBase->setPointCount(0);
-    state.history.strComments[0].clear();
     refs.triggerCursor->Visible = false;
 }
 

@@ -16,15 +16,16 @@ inline constexpr int kOverlayGraph = 1;
 
 // Draws history slot `slot` (0-5) as graph kind `kind`: rebuilds the channel arrays of
 // `state.sampData`, fills the series of the channels in use, the time-base series (kind 0),
-// places the channel labels and shows or hides the trigger mark. A slot or kind out of range
-// draws nothing.
+// places the channel labels and shows or hides the trigger mark. A slot or kind out of range,
+// or released chart references, draw nothing.
 void drawGraph(const ChartRefs& refs, GraphState& state, const PlotInputs& inputs, int slot,
                int kind);
 
 // Draws records `first` … `last` - 1 of history slot 0, just added by a sampling reply, at the
 // end of the displayed graph: only those records are converted and drawn, so a run delivered
-// in small replies never redraws the whole graph. Labels and the trigger mark wait for the
-// full draw of the finished graph.
+// in small replies never redraws the whole graph. The time-base series follows the channel
+// series (from `first` 0 on, a new sweep, it holds only the new sweep's points), and the
+// channel labels and the trigger mark are placed again.
 void drawNewRecords(const ChartRefs& refs, GraphState& state, const PlotInputs& inputs, int first,
                     int last);
 
@@ -33,8 +34,10 @@ void placeChannelLabels(const ChartRefs& refs, const GraphState& state, const Pl
                         int kind);
 
 // Binary search over channel 1's sample times for an index whose time lies in [from, to];
-// 0 when the search finds none.
-int32_t findSampleInTimeRange(const std::vector<double>& times, double from, double to);
+// 0 when the search finds none. Only the first `count` times are searched (a graph still
+// being sampled).
+int32_t findSampleInTimeRange(const std::vector<double>& times, double from, double to,
+                              int32_t count = kGraphRecords);
 
 // Empties every channel series and the time-base series, the comment of slot 0, and hides the
 // trigger mark.

@@ -9,6 +9,22 @@
 
 namespace zt {
 
+namespace {
+
+// Counts a command being raised for as long as the host's handler runs, exceptions included.
+class Raising {
+  public:
+    explicit Raising(int& depth) : depth_(depth) { ++depth_; }
+    ~Raising() { --depth_; }
+    Raising(const Raising&) = delete;
+    Raising& operator=(const Raising&) = delete;
+
+  private:
+    int& depth_;
+};
+
+}  // namespace
+
 RunControl::RunControl(GraphState& state, GraphSurface& surface, HostServices& host,
                        CommandSink raise)
     : state_(state), surface_(surface), host_(host), raise_(std::move(raise)) {}
@@ -17,13 +33,22 @@ int16_t RunControl::channelCount() const {
     return hooks_.channelCount ? hooks_.channelCount() : int16_t{0};
 }
 
+bool RunControl::runInProgress() const {
+    if (terminated()) return false;
+    if (phase_ != RunPhase::Idle) return true;
+    // A state set to Sampling from outside a start counts too, until its stop is raised.
+    return state_.runState == Sampling && raisingStop_ == 0;
+}
+
 void RunControl::changeRunState(int16_t event) {
+    if (terminated()) return;
     const RecountFacts facts{state_.graphInfo.udtHistoryState.lngGraphTotal, channelCount()};
     state_.runState = nextRunState(state_.runState, event, facts);
     applyRunState();
 }
 
 void RunControl::applyRunState() {
+    if (terminated()) return;
     RunViewInputs in;
     in.cursorChecked = surface_.chkCursor.value() == ui::kChecked;
     in.needsScrolling = hooks_.graphNeedsScrolling && hooks_.graphNeedsScrolling();
@@ -54,6 +79,9 @@ bool RunControl::stationsReady() {
 }
 
 void RunControl::cmdStart_Click() {
+    // One run at a time: no start while a run is in progress or a command is being raised
+    // (the host's handler pressing Start again).
+    if (terminated() || phase_ != RunPhase::Idle || raisingStart_ > 0 || raisingStop_ > 0) return;
     const int16_t rs = state_.runState;
     if (rs != OnlineReady && rs != OnlineGraph && rs != OfflineReady && rs != OfflineGraph) return;
     state_.startErr = false;
@@ -79,31 +107,67 @@ void RunControl::cmdStart_Click() {
     state_.statusU = 1;
     clearWholeGraph_ = true;
     surface_.registry.mousePointer = ui::MousePointer::Hourglass;
-    raise_(kCommandStart);
+    phase_ = RunPhase::Starting;
+    try {
+        Raising raising(raisingStart_);
+        raise_(kCommandStart);
+    } catch (...) {
+        // A handler that fails leaves no start half made.
+        if (phase_ == RunPhase::Starting) phase_ = RunPhase::Idle;
+        surface_.registry.mousePointer = ui::MousePointer::Default;
+        throw;
+    }
+    if (terminated()) {
+        surface_.registry.mousePointer = ui::MousePointer::Default;
+        return;
+    }
     callHook(hooks_.redrawVertScaleLabels);
-    if (!state_.startErr) changeRunState(RunStarted);
+    // The host may have ended the start inside its handler (Stop, line offline, a reply that
+    // completed the run): then the run is over already and Sampling is not entered.
+    if (phase_ == RunPhase::Starting) {
+        if (state_.startErr) {
+            phase_ = RunPhase::Idle;
+        } else {
+            phase_ = RunPhase::Running;
+            changeRunState(RunStarted);
+        }
+    }
     surface_.registry.mousePointer = ui::MousePointer::Default;
 }
 
-void RunControl::endRun(int16_t event) {
+void RunControl::raiseStop() {
+    phase_ = RunPhase::Idle;
     state_.statusU = 0;
+    Raising raising(raisingStop_);
     raise_(kCommandStop);
-    callHook(hooks_.enterNewGraph);
+}
+
+void RunControl::endRun(int16_t event) {
+    // A start ended inside its own request sampled nothing: no graph enters the history.
+    const bool sampled = phase_ != RunPhase::Starting;
+    raiseStop();
+    if (terminated()) return;
+    if (sampled) callHook(hooks_.enterNewGraph);
     changeRunState(event);
 }
 
 void RunControl::cmdStop_Click() {
+    // Stop ends the run in progress once; the host's stop handler pressing it again, or a
+    // press after the run ended, does nothing.
+    if (terminated() || raisingStop_ > 0 || !runInProgress()) return;
     endRun(RunStopped);
 }
 
 void RunControl::cmdClear_Click() {
+    // Nothing is cleared under a run that is still sampling, whatever the state shows.
+    if (terminated() || runInProgress()) return;
     switch (state_.runState) {
         case OnlineNoChannel:
         case OnlineReady:
         case OfflineNoChannel:
         case OfflineReady:
-            if (hooks_.initializeSettings && hooks_.initializeSettings())
-                changeRunState(ChannelsCleared);
+            // Resetting the settings ends with run event 7 of its own.
+            callHook(hooks_.initializeSettings);
             break;
         case OnlineGraph:
         case OfflineGraph:
@@ -118,18 +182,27 @@ void RunControl::cmdClear_Click() {
 }
 
 void RunControl::ChgLineStatus(int16_t intstatus) {
+    if (terminated()) return;
     if (intstatus == 1) {
         changeRunState(LineOnline);
         return;
     }
     if (intstatus != 0) return;
+    // Offline while the stop command is being raised: the host has been told already, only
+    // the line state follows.
+    if (raisingStop_ > 0) {
+        changeRunState(LineOffline);
+        return;
+    }
+    // A run in progress ends as a stop does, whichever state the host's answers left it in.
+    if (runInProgress()) {
+        endRun(LineOffline);
+        return;
+    }
     const int16_t rs = state_.runState;
     if (rs == OnlineNoChannel || rs == OnlineReady || rs == OnlineGraph) {
-        state_.statusU = 0;
-        raise_(kCommandStop);
+        raiseStop();
         changeRunState(LineOffline);
-    } else if (rs == Sampling) {
-        endRun(LineOffline);
     }
 }
 
@@ -138,6 +211,7 @@ void RunControl::EventResCommand(int32_t lngResult) {
 }
 
 GRAPH_REQUEST RunControl::GetGraphRequest() {
+    if (terminated()) return state_.request;
     ChannelsSet set{};
     for (int c = 1; c <= kChannelCount; ++c)
         set[static_cast<std::size_t>(c)] = hooks_.channelIsSet && hooks_.channelIsSet(c);
@@ -146,6 +220,7 @@ GRAPH_REQUEST RunControl::GetGraphRequest() {
 }
 
 void RunControl::SetGraphRequest(GRAPH_REQUEST& udtGraphRequest) {
+    if (terminated()) return;
     takeGraphRequest(state_, host_.common(), udtGraphRequest);
 }
 
@@ -193,15 +268,20 @@ void RunControl::showTriggerPhase(int16_t before) {
 }
 
 void RunControl::SetSamplingData(GRAPH_RESULT_INFO& udtGraphResultInfo, int32_t lngErrCode) {
-    // Replies only belong to a run in progress; a late one after the run ended is dropped.
-    if (state_.runState != Sampling) return;
+    // A reply belongs to the run in progress whatever the run state shows meanwhile (the host
+    // may have answered a command, or the line may have come back, while it samples). Once
+    // the control has raised the stop command the run is over and its graph is in the
+    // history; a host may still have blocks in flight then. Such a late reply is ignored as a
+    // whole: its records stay in the host's record untaken, an error code shows no message,
+    // and no command or run event follows.
+    if (terminated() || !runInProgress()) return;
     if (lngErrCode != 0) {
         host_.showMessage(samplingErrorText(host_, lngErrCode), kStyleNotice);
+        if (terminated() || !runInProgress()) return;
         endRun(RunStopped);
         return;
     }
     std::vector<SampleRecord>& records = udtGraphResultInfo.udtSample;
-    std::size_t offset = 0;
     for (;;) {
         int16_t before = state_.triggerPhase;
         if (state_.replyPhase == 10) {
@@ -209,23 +289,24 @@ void RunControl::SetSamplingData(GRAPH_RESULT_INFO& udtGraphResultInfo, int32_t 
             clearWholeGraph_ = false;
             before = -1;
         }
-        const FeedResult fed =
-            capture_.feed(std::span<const SampleRecord>(records).subspan(offset));
+        const FeedResult fed = capture_.feed(std::span<const SampleRecord>(records));
         state_.replyPhase = 0;
-        offset += fed.consumed;
+        // The taken records leave the host's record before anything is drawn or raised: once
+        // the host's stop handler has run, the record is the host's alone again.
+        const auto taken = static_cast<std::ptrdiff_t>(std::min(fed.consumed, records.size()));
+        records.erase(records.begin(), records.begin() + taken);
         showTriggerPhase(before);
         if (fed.drawLast > fed.drawFirst)
             callHook(hooks_.drawNewRecords, fed.drawFirst, fed.drawLast);
-        if (!fed.complete) break;
+        if (!fed.complete || terminated()) return;
         if (state_.sampSetting.intSamplingMode != 0) {
             callHook(hooks_.enterNewGraph);
             state_.replyPhase = 10;
             continue;
         }
         endRun(RunStopped);
-        break;
+        return;
     }
-    records.erase(records.begin(), records.begin() + static_cast<std::ptrdiff_t>(offset));
 }
 
 }  // namespace zt

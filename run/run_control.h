@@ -41,8 +41,17 @@ class RunControl {
     void SetGraphRequest(GRAPH_REQUEST& udtGraphRequest);
     void SetSamplingData(GRAPH_RESULT_INFO& udtGraphResultInfo, int32_t lngErrCode);
 
+    // A run is in progress: from the start request until the control raises the stop
+    // command, whatever the run state shows meanwhile.
+    bool runInProgress() const;
+
   private:
+    enum class RunPhase : uint8_t { Idle, Starting, Running };
+
     int16_t channelCount() const;
+    bool terminated() const { return state_.terminated; }
+    // Raises the stop command once; the run is over before the host hears of it.
+    void raiseStop();
     bool stationsReady();
     void beginSweep(bool clearAll);
     void showTriggerPhase(int16_t before);
@@ -55,6 +64,10 @@ class RunControl {
     RunHooks hooks_;
     SweepCapture capture_;
     bool clearWholeGraph_ = true;
+    RunPhase phase_ = RunPhase::Idle;
+    // Commands being raised: the host's handler is running and may call back.
+    int raisingStart_ = 0;
+    int raisingStop_ = 0;
 };
 
 }  // namespace zt

@@ -121,10 +121,16 @@ TEST(TriggerSheet, NotUsedLocksEveryRowAndClearsTheTrigger) {
     SheetHost h;
     h.trig.chooseListItem(1, 1, "Fault");
     h.trig.chooseListItem(1, 1, "Not used");
-    for (int r = 2; r <= 5; ++r) {
+    for (int r = 2; r <= 5; ++r)
         EXPECT_TRUE(h.trig.locked(1, r));
-        EXPECT_EQ(h.trig.text(1, r), "---");
-    }
+    EXPECT_EQ(h.trig.text(1, 2), "---");
+    EXPECT_EQ(h.trig.text(1, 3), "---");
+    // The level row is re-evaluated after the change; the position follows the position rule
+    // when editing ends.
+    EXPECT_EQ(h.trig.text(1, 4), "0.00");
+    EXPECT_EQ(h.trig.text(1, 5), "---");
+    h.trig.leaveSheet();
+    EXPECT_EQ(h.trig.text(1, 5), "10");
     EXPECT_EQ(h.state.sampSetting.intTriggerBoot, kNoTriggerBoot);
     EXPECT_EQ(h.state.sampSetting.lngTriggerPoint, -1);
 }

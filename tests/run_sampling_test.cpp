@@ -109,9 +109,57 @@ TEST_F(SamplingRun, GoingOfflineDuringARunStopsItAndIgnoresLateReplies) {
     EXPECT_EQ(control.runState(), OfflineReady);
     EXPECT_EQ(control.StatusU(), 0);
     EXPECT_EQ(graphsEntered, 1);
+    // Blocks still in flight after the stop belong to no graph: they are left untaken, an
+    // error code shows nothing and nothing more is raised.
     GRAPH_RESULT_INFO late{{record(1000, 5)}};
     control.SetSamplingData(late, 0);
+    control.SetSamplingData(late, sim::kErrTimeout);
     EXPECT_EQ(graphLength(), 30);
+    EXPECT_EQ(late.udtSample.size(), 1u);
+    EXPECT_TRUE(boxTexts().empty());
+    EXPECT_EQ(host.commands(), (std::vector<int32_t>{77, 78}));
+    EXPECT_EQ(graphsEntered, 1);
+}
+
+struct MidRunCall {
+    const char* name;
+    void (*call)(ztGraphControl&);
+    int16_t state;  // state right after the call, and after the run
+};
+
+class RunAfterAHostCall : public SamplingRun, public ::testing::WithParamInterface<MidRunCall> {};
+
+TEST_P(RunAfterAHostCall, RepliesAreStillTakenUntilTheControlStopsTheRun) {
+    control.surface().cmdStart.click();
+    host.run(3);
+    GetParam().call(control);
+    EXPECT_EQ(control.runState(), GetParam().state);
+    EXPECT_EQ(host.commands(), (std::vector<int32_t>{77}));
+    EXPECT_EQ(control.StatusU(), 0);
+    host.run();
+    EXPECT_EQ(host.commands(), (std::vector<int32_t>{77, 78}));
+    EXPECT_EQ(graphLength(), 102);
+    EXPECT_EQ(graphsEntered, 1);
+    EXPECT_EQ(control.runState(), GetParam().state);
+    EXPECT_EQ(control.state().history.udtGraphResultInfo[0].udtSample[101].lngDiffTime, 1000);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    HostCalls, RunAfterAHostCall,
+    ::testing::Values(
+        MidRunCall{"CommandAnswered", [](ztGraphControl& c) { c.EventResCommand(1); }, OnlineGraph},
+        MidRunCall{"LineOnline", [](ztGraphControl& c) { c.ChgLineStatus(1); }, OnlineReady}),
+    [](const ::testing::TestParamInfo<MidRunCall>& p) { return p.param.name; });
+
+TEST_F(SamplingRun, LineOfflineAfterACommandAnswerEndsTheRunWithItsGraph) {
+    control.surface().cmdStart.click();
+    host.run(3);
+    control.EventResCommand(1);
+    control.ChgLineStatus(0);
+    EXPECT_EQ(host.commands(), (std::vector<int32_t>{77, 78}));
+    EXPECT_EQ(graphsEntered, 1);
+    EXPECT_EQ(control.runState(), OfflineGraph);
+    EXPECT_FALSE(host.sampling());
 }
 
 TEST_F(SamplingRun, StopButtonEndsTheRunWithTheGraphSoFar) {

@@ -33,6 +33,107 @@ INSTANTIATE_TEST_SUITE_P(
                       Transition{6, 8, 2}, Transition{6, 5, 6}, Transition{2, 9, 2},
                       Transition{9, 2, 1}, Transition{-3, 0, 3}));
 
+// Every pair of the table by state and event, as the surface shows it afterwards; the pairs
+// not listed keep their state.
+TEST(RunStateTransitions, WholeTableThroughTheControl) {
+    constexpr int16_t R = -2;  // recount
+    constexpr int16_t K = -1;  // kept
+    constexpr int16_t table[7][12] = {
+        {3, K, 1, K, 2, K, K, K, K, K, K, K}, {4, K, K, K, 2, 6, K, 0, 2, K, K, 0},
+        {5, K, K, 1, K, 6, K, K, K, K, K, 0}, {K, 0, 4, K, 5, K, K, K, K, K, R, K},
+        {K, 1, K, K, 5, 6, K, 3, 2, K, R, 3}, {K, 2, K, 4, K, K, K, K, K, K, R, 3},
+        {4, 1, K, K, K, K, 2, K, 2, K, K, K},
+    };
+    RunFixture f;
+    f.setChannel(1, 1, 201);  // one channel set: a recount without graphs gives 4
+    for (int16_t from = 0; from <= 6; ++from) {
+        for (int16_t event = -1; event <= 12; ++event) {
+            f.control.state().runState = from;
+            f.control.run().changeRunState(event);
+            const bool listed = event >= 0 && event < 12;
+            int16_t to = listed ? table[from][event] : K;
+            if (to == K) to = from;
+            if (to == R) to = OfflineReady;
+            EXPECT_EQ(f.control.runState(), to) << from << " by " << event;
+            const GraphSurface& s = f.control.surface();
+            EXPECT_EQ(s.cmdStart.Enabled, to == 1 || to == 2) << from << " by " << event;
+            EXPECT_EQ(s.cmdStop.Enabled, to == 6) << from << " by " << event;
+            EXPECT_EQ(f.control.StatusU(), to == 6 ? 1 : 0) << from << " by " << event;
+        }
+    }
+}
+
+// The enabling of every control of the state table, read from the surface after the event
+// that leads into each state.
+struct Enabling {
+    int16_t from, event, state;
+    bool start, stop, clear, locked, scale, cursorCheck, horz, vert, zero, comment, optimize;
+    int history;  // history options and overwrite boxes enabled
+};
+
+class StateEnabling : public ::testing::TestWithParam<Enabling> {};
+
+TEST_P(StateEnabling, SurfaceFollowsTheStateTable) {
+    const Enabling e = GetParam();
+    RunFixture f;
+    f.setChannel(1, 1, 201);
+    f.control.state().graphInfo.udtHistoryState.lngGraphTotal = 2;
+    f.control.state().graphInfo.intChNumber = 1;
+    f.control.surface().chkCursor.setValue(ui::kChecked);
+    f.control.surface().lblHistValue[0].Caption = "kept";
+    f.control.surface().optHistory[1].setValue(true);
+    f.control.surface().chkOverWrite[1].setValue(ui::kChecked);
+    f.statusTexts.clear();
+    f.control.state().runState = e.from;
+    f.control.run().changeRunState(e.event);
+    ASSERT_EQ(f.control.runState(), e.state);
+    const GraphSurface& s = f.control.surface();
+    EXPECT_EQ(s.cmdStart.Enabled, e.start);
+    EXPECT_EQ(s.cmdStop.Enabled, e.stop);
+    EXPECT_EQ(s.cmdClear.Enabled, e.clear);
+    EXPECT_EQ(s.sprChannel.locked(1, 2), e.locked);
+    EXPECT_EQ(s.sprSampling.locked(1, 1), e.locked);
+    for (const auto& opt : s.optScale)
+        EXPECT_EQ(opt.Enabled, e.scale);
+    EXPECT_EQ(s.chkCursor.Enabled, e.cursorCheck);
+    for (const auto& opt : s.optCursor)
+        EXPECT_EQ(opt.Enabled, e.cursorCheck);  // the cursor box is ticked
+    EXPECT_EQ(s.cboHorzScale.Enabled, e.horz);
+    EXPECT_FALSE(s.hsbGraph.Enabled);  // no points to scroll
+    EXPECT_EQ(s.cboVertScale.Enabled, e.vert);
+    EXPECT_EQ(s.updZero.Enabled, e.zero);
+    for (const auto& opt : s.optHistory)
+        EXPECT_EQ(opt.Enabled, opt.Index() < e.history) << opt.Index();
+    for (const auto& box : s.chkOverWrite)
+        EXPECT_EQ(box.Enabled, box.Index() < e.history) << box.Index();
+    const bool emptied = e.state <= 1 || e.state == 3 || e.state == 4;
+    EXPECT_EQ(s.lblHistValue[0].Caption.empty(), emptied);
+    EXPECT_EQ(s.optHistory[1].value(), !emptied);
+    EXPECT_EQ(s.chkOverWrite[1].value() == ui::kChecked, !emptied);
+    const bool graphState = e.state == 2 || e.state == 5;
+    // The fixture records a hidden status label as an empty text.
+    EXPECT_EQ(f.statusTexts,
+              graphState ? std::vector<std::string>{""} : std::vector<std::string>{});
+    EXPECT_EQ(s.txtComment.Enabled, e.comment);
+    EXPECT_EQ(s.txtComment.BackColor, e.comment ? ui::kColorWindow : ui::kColorButtonFace);
+    EXPECT_EQ(s.cmdOptVert.Enabled, e.optimize);
+    EXPECT_EQ(f.control.StatusU(), e.state == 6 ? 1 : 0);
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(
+    EveryState, StateEnabling,
+    ::testing::Values(
+        //       from ev st start  stop   clear locked scale  cursor horz   vert   zero   comment optim  history
+        Enabling{1,   7, 0, false, false, true, false, false, false, false, false, false, false, false, 0},
+        Enabling{0,   2, 1, true,  false, true, false, true,  false, false, true,  true,  false, false, 0},
+        Enabling{1,   8, 2, true,  false, true, true,  true,  true,  true,  true,  true,  true,  true,  2},
+        Enabling{0,   0, 3, false, false, true, false, false, false, false, false, false, false, false, 0},
+        Enabling{1,   0, 4, false, false, true, false, true,  false, false, true,  true,  false, false, 0},
+        Enabling{2,   0, 5, false, false, true, true,  true,  true,  true,  true,  true,  true,  true,  2},
+        Enabling{1,   5, 6, false, true,  false, true, false, false, false, false, false, false, false, 0}));
+// clang-format on
+
 TEST(RunStateRecount, ProjectLoadPicksTheOfflineStateFromGraphsAndChannels) {
     EXPECT_EQ(nextRunState(3, 10, {1, 0}), OfflineGraph);
     EXPECT_EQ(nextRunState(4, 10, {0, 0}), OfflineNoChannel);
@@ -107,8 +208,10 @@ TEST_P(ClearButton, ResetsSettingsOrDeletesDataByState) {
     const ClearCase c = GetParam();
     RunFixture f;
     int initializations = 0, graphClears = 0;
+    // Resetting the settings ends with run event 7 of its own, as the sheets do.
     f.control.run().hooks().initializeSettings = [&] {
         ++initializations;
+        f.control.run().changeRunState(ChannelsCleared);
         return true;
     };
     f.control.run().hooks().clearAllGraphs = [&] { ++graphClears; };
