@@ -9,8 +9,10 @@
 //   --gtest_filter='RandomHost*'
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <deque>
 #include <functional>
@@ -24,6 +26,7 @@
 #include "control/graph_control_interface.h"
 #include "core/graph_history.h"
 #include "core/setting_limits.h"
+#include "run/run_states.h"
 #include "sim/sim_common_library.h"
 
 namespace zt {
@@ -79,6 +82,9 @@ class RandomHost : public GraphHostSink {
         }
         return checkInvariants(failure);
     }
+
+    // How many steps ended in each run state: a run that never samples tests little.
+    const std::array<int, 7>& statesSeen() const { return statesSeen_; }
 
     std::string recentSteps() const {
         std::string out;
@@ -264,7 +270,11 @@ class RandomHost : public GraphHostSink {
         const int16_t state = control_.runState();
         const GraphSurface& s = control_.surface();
         std::ostringstream why;
-        if (state < 0 || state > 6) why << "run state " << state << " outside 0 to 6; ";
+        if (state < 0 || state > 6) {
+            why << "run state " << state << " outside 0 to 6; ";
+        } else {
+            ++statesSeen_[static_cast<size_t>(state)];
+        }
         if (state != lastState_) {
             startRefused_ = false;
             lastState_ = state;
@@ -282,8 +292,14 @@ class RandomHost : public GraphHostSink {
         const bool sheetLocked = s.sprChannel.locked(1, kRowStation);
         if (sheetLocked != locked) why << "channel sheet lock wrong in state " << state << "; ";
         const auto& history = control_.state().history;
-        if (history.lngGraphCount < 0 || history.lngGraphCount > 5)
-            why << "graph count " << history.lngGraphCount << "; ";
+        const HISTORYSTATE& shown = control_.state().graphInfo.udtHistoryState;
+        if (shown.lngGraphTotal < 0 || shown.lngGraphTotal > 5)
+            why << "graph total " << shown.lngGraphTotal << "; ";
+        if (shown.lngCurrentGraph < 0 || shown.lngCurrentGraph > 5)
+            why << "current graph " << shown.lngCurrentGraph << "; ";
+        const int32_t overlay = shown.lngOverWriteState;
+        if (overlay < 0 || overlay >= 32 || (overlay & (overlay - 1)) != 0)
+            why << "overwrite bits " << overlay << "; ";
         for (const auto& slot : history.udtGraphResultInfo) {
             if (slot.udtSample.size() != static_cast<size_t>(kGraphRecords))
                 why << "a history slot holds " << slot.udtSample.size() << " records; ";
@@ -310,6 +326,7 @@ class RandomHost : public GraphHostSink {
     int16_t lastState_ = -1;
     int depth_ = 0;
     double phase_ = 0;
+    std::array<int, 7> statesSeen_{};
 };
 
 TEST(RandomHost, KeepsEveryInvariantOverALongSequence) {
@@ -326,6 +343,14 @@ TEST(RandomHost, KeepsEveryInvariantOverALongSequence) {
                        << host.recentSteps();
             }
         }
+        std::string seen;
+        for (const int n : host.statesSeen())
+            seen += " " + std::to_string(n);
+        std::printf("seed %llu: %d steps; steps ending in states 0 to 6:%s\n",
+                    static_cast<unsigned long long>(seed), steps, seen.c_str());
+        EXPECT_GT(host.statesSeen()[Sampling], 0) << "seed " << seed << " never sampled";
+        EXPECT_GT(host.statesSeen()[OnlineGraph] + host.statesSeen()[OfflineGraph], 0)
+            << "seed " << seed << " never showed a graph";
     }
 }
 
