@@ -296,52 +296,39 @@ void GraphDisplay::mouseDown(int16_t button, int16_t shift, float x, float y) {
     }
 }
 
+GraphDisplay::CursorDrag GraphDisplay::cursorDrag(float x, float y, bool clamp) const {
+    const CURSORSTATE& cs = state_.graphInfo.udtCursorState;
+    CursorDrag d;
+    if (cs.intCursorState == kTimeCursors) {
+        const double px =
+            clamp ? std::max<double>(chart_.grid->Left, std::min<double>(x, chart_.grid->Right))
+                  : x;
+        d = {kTimeCursors, grabbedTime_, (px - chart_.grid->Left) / fieldWidth(),
+             cs.sngVertDiffPosAB};
+    } else if (cs.intCursorState == kValueCursors) {
+        const double py = clamp ? std::max(kFieldTop, std::min<double>(y, chart_.grid->Bottom)) : y;
+        d = {kValueCursors, grabbedValue_, (py - kFieldTop) / fieldHeight(), cs.sngHorzDiffPosAB};
+    }
+    return d;
+}
+
 void GraphDisplay::mouseMove(int16_t button, int16_t, float x, float y) {
     if (!alive() || s_.chkCursor.value() != ui::kChecked || (button & kLeftButton) == 0) return;
-    const CURSORSTATE& cs = state_.graphInfo.udtCursorState;
-    int kind = 0;
-    int grabbed = 0;
-    double f = 0;
-    double distance = 0;
-    if (cs.intCursorState == kTimeCursors) {
-        kind = kTimeCursors;
-        grabbed = grabbedTime_;
-        f = (x - chart_.grid->Left) / fieldWidth();
-        distance = cs.sngVertDiffPosAB;
-    } else if (cs.intCursorState == kValueCursors) {
-        kind = kValueCursors;
-        grabbed = grabbedValue_;
-        f = (y - kFieldTop) / fieldHeight();
-        distance = cs.sngHorzDiffPosAB;
-    }
-    if (grabbed == 0) return;
-    setCursorPosition(f, kind, grabbed);
+    const CursorDrag d = cursorDrag(x, y, false);
+    if (d.grabbed == 0) return;
+    setCursorPosition(d.fraction, d.kind, d.grabbed);
     if (both_)
-        setCursorPosition(grabbed == kCursorA ? f + distance : f - distance, kind,
-                          grabbed == kCursorA ? kCursorB : kCursorA);
+        setCursorPosition(d.grabbed == kCursorA ? d.fraction + d.distance : d.fraction - d.distance,
+                          d.kind, d.grabbed == kCursorA ? kCursorB : kCursorA);
 }
 
 void GraphDisplay::mouseUp(int16_t button, int16_t, float x, float y) {
     if (!alive() || s_.chkCursor.value() != ui::kChecked || (button & kLeftButton) == 0) return;
-    const CURSORSTATE& cs = state_.graphInfo.udtCursorState;
-    int kind = 0;
-    int grabbed = 0;
-    double f = 0;
-    double distance = 0;
-    if (cs.intCursorState == kTimeCursors) {
-        kind = kTimeCursors;
-        grabbed = grabbedTime_;
-        const double px =
-            std::max<double>(chart_.grid->Left, std::min<double>(x, chart_.grid->Right));
-        f = (px - chart_.grid->Left) / fieldWidth();
-        distance = cs.sngVertDiffPosAB;
-    } else if (cs.intCursorState == kValueCursors) {
-        kind = kValueCursors;
-        grabbed = grabbedValue_;
-        const double py = std::max(kFieldTop, std::min<double>(y, chart_.grid->Bottom));
-        f = (py - kFieldTop) / fieldHeight();
-        distance = cs.sngHorzDiffPosAB;
-    }
+    const CursorDrag d = cursorDrag(x, y, true);
+    const int kind = d.kind;
+    const int grabbed = d.grabbed;
+    const double distance = d.distance;
+    double f = d.fraction;
     grabbedTime_ = 0;
     grabbedValue_ = 0;
     s_.registry.mousePointer = ui::MousePointer::Default;

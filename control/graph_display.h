@@ -87,6 +87,16 @@ class GraphDisplay {
     void mouseDown(int16_t button, int16_t shift, float x, float y);
     void mouseMove(int16_t button, int16_t shift, float x, float y);
     void mouseUp(int16_t button, int16_t shift, float x, float y);
+    // Where the mouse puts the grabbed cursor of the shown kind: the kind, the cursor (0 none),
+    // the position as a fraction of the field and the two cursors' distance. `clamp` keeps the
+    // mouse inside the plot field first.
+    struct CursorDrag {
+        int kind = 0;
+        int grabbed = 0;
+        double fraction = 0;
+        double distance = 0;
+    };
+    CursorDrag cursorDrag(float x, float y, bool clamp) const;
 
     // Cursors.
     void setCursorPosition(double fraction, int kind, int which);
