@@ -49,9 +49,9 @@ std::string getProfileString(const std::string& section, const std::string& key,
 bool writeProfileString(const std::string& section, const std::string& key,
                         const std::string& value, const std::string& fileName);
 
-// The bytes a file holding `text` has after WritePrivateProfileStringA set `key` in `section`
-// to `value` (section and key already trimmed).
-std::string editedProfileText(std::string_view text, std::string_view section, std::string_view key,
-                              std::string_view value);
+// Turns `text` into the bytes a file holding it has after WritePrivateProfileStringA set `key`
+// in `section` to `value` (section and key already trimmed).
+void editProfileText(std::string& text, std::string_view section, std::string_view key,
+                     std::string_view value);
 
 }  // namespace zt::profile

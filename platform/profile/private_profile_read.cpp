@@ -1,13 +1,15 @@
-// Reading side of the private-profile functions: one streaming pass over the file that stops
-// as soon as the answer is known.
+// Reading side of the private-profile functions: lookups in the file's bytes, read once for a
+// run of lookups in the same file.
 #include <algorithm>
 #include <cstring>
+#include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/profile/private_profile.h"
+#include "platform/profile/profile_file_io.h"
 #include "platform/profile/profile_line.h"
-#include "platform/profile/profile_line_reader.h"
 
 namespace zt::profile {
 
@@ -19,46 +21,72 @@ constexpr std::size_t kValueLengthWrap = 65536;
 
 enum class Lookup { Found, NotFound, NoFile };
 
-// Finds the first `key` in the first section named `section`. Lines before the first header
-// form a section named "" that always comes first, so a "[]" header is never searched; nor is
-// any later section of the same name.
+// The file's bytes, shared with the cache of the file read last; null when there is no file
+// that can be read.
+std::shared_ptr<const std::string> fileText(const char* fileName) {
+    std::shared_ptr<const std::string> text;
+    readSharedFile(fileName, text);
+    return text;
+}
+
+// Calls `visit(line)` for each line from `pos` on until it returns false.
+template <typename Visit>
+void forEachLine(std::string_view text, std::size_t pos, Visit visit) {
+    while (pos < text.size()) {
+        const LineSpan span = splitLine(text, pos);
+        if (!visit(text.substr(pos, span.contentEnd - pos))) return;
+        pos = span.next;
+    }
+}
+
+// Where the lines of the first section named `section` begin: the start of the file for "",
+// whose lines come before the first header (so a "[]" header is never searched), else the
+// line after the first header naming it; npos when there is none.
+std::size_t sectionBody(std::string_view text, std::string_view section) {
+    if (section.empty()) return 0;
+    const std::size_t header = findSectionHeader(text, section);
+    return header == std::string_view::npos ? header : splitLine(text, header).next;
+}
+
+// Finds the first `key` in the first section named `section`; later sections of the same
+// name are never searched.
 Lookup lookupValue(std::string_view section, std::string_view key, const char* fileName,
                    std::string& value) {
-    ProfileLineReader reader(fileName);
-    if (!reader.isOpen()) return Lookup::NoFile;
-    bool inSection = section.empty();
-    std::string_view line;
-    while (reader.next(line)) {
-        if (!inSection && !isSectionLine(line)) continue;
+    const auto file = fileText(fileName);
+    if (!file) return Lookup::NoFile;
+    const std::string_view text = *file;
+    const std::size_t body = sectionBody(text, section);
+    if (body == std::string_view::npos) return Lookup::NotFound;
+    Lookup result = Lookup::NotFound;
+    forEachLine(text, body, [&](std::string_view line) {
         const ProfileLine parsed = parseLine(line);
-        if (parsed.kind == LineKind::Section) {
-            if (inSection) return Lookup::NotFound;  // the first matching section has ended
-            inSection = equalsIgnoreCase(parsed.name, section);
-        } else if (inSection && parsed.kind == LineKind::Key &&
-                   equalsIgnoreCase(parsed.name, key)) {
+        if (parsed.kind == LineKind::Section) return false;  // the section has ended
+        if (parsed.kind == LineKind::Key && equalsIgnoreCase(parsed.name, key)) {
             const std::string_view v =
                 parsed.value.substr(0, parsed.value.size() % kValueLengthWrap);
             value.assign(v.data(), v.size());
-            return Lookup::Found;
+            result = Lookup::Found;
+            return false;
         }
-    }
-    return Lookup::NotFound;
+        return true;
+    });
+    return result;
 }
 
 // Appends every section name, each followed by a NUL. Sections named "" are left out: their
 // empty name would end the list early.
 bool listSections(const char* fileName, std::string& list) {
-    ProfileLineReader reader(fileName);
-    if (!reader.isOpen()) return false;
-    std::string_view line;
-    while (reader.next(line)) {
-        if (!isSectionLine(line)) continue;
+    const auto file = fileText(fileName);
+    if (!file) return false;
+    forEachLine(*file, 0, [&](std::string_view line) {
+        if (!isSectionLine(line)) return true;
         const ProfileLine parsed = parseLine(line);
         if (!parsed.name.empty()) {
             list.append(parsed.name);
             list.push_back('\0');
         }
-    }
+        return true;
+    });
     return true;
 }
 
@@ -66,27 +94,26 @@ bool listSections(const char* fileName, std::string& list) {
 // header for ""), duplicates included, each followed by a NUL; a key line with an empty name
 // gives an empty entry. Lines without '=' and comments are not keys and are left out.
 void listKeys(std::string_view section, const char* fileName, std::string& list) {
-    ProfileLineReader reader(fileName);
-    bool inSection = section.empty();
+    const auto file = fileText(fileName);
+    if (!file) return;
+    const std::string_view text = *file;
+    const std::size_t body = sectionBody(text, section);
+    if (body == std::string_view::npos) return;
     // Consecutive key lines with an empty name (blank lines between them do not count) give
     // one empty entry.
     bool afterEmptyName = false;
-    std::string_view line;
-    while (reader.next(line)) {
-        if (!inSection && !isSectionLine(line)) continue;
+    forEachLine(text, body, [&](std::string_view line) {
         const ProfileLine parsed = parseLine(line);
-        if (parsed.kind == LineKind::Section) {
-            if (inSection) return;
-            inSection = equalsIgnoreCase(parsed.name, section);
-        } else if (inSection && parsed.kind != LineKind::Blank) {
-            const bool emptyName = parsed.kind == LineKind::Key && parsed.name.empty();
-            if (parsed.kind == LineKind::Key && !(emptyName && afterEmptyName)) {
-                list.append(parsed.name);
-                list.push_back('\0');
-            }
-            afterEmptyName = emptyName;
+        if (parsed.kind == LineKind::Section) return false;
+        if (parsed.kind == LineKind::Blank) return true;
+        const bool emptyName = parsed.kind == LineKind::Key && parsed.name.empty();
+        if (parsed.kind == LineKind::Key && !(emptyName && afterEmptyName)) {
+            list.append(parsed.name);
+            list.push_back('\0');
         }
-    }
+        afterEmptyName = emptyName;
+        return true;
+    });
 }
 
 uint32_t copyText(std::string_view text, char* buffer, uint32_t size) {

@@ -27,11 +27,12 @@ struct SectionLayout {
     std::string_view keyName;  // `key` as the file spells it
 };
 
+// `from` is where the search may begin: 0, or the start of the first header naming `section`.
 SectionLayout locate(std::string_view text, std::string_view section, std::string_view key,
-                     bool wantKey) {
+                     bool wantKey, std::size_t from = 0) {
     SectionLayout layout;
     bool inSection = false;
-    for (std::size_t pos = 0; pos < text.size();) {
+    for (std::size_t pos = from; pos < text.size();) {
         const LineSpan span = splitLine(text, pos);
         const ProfileLine parsed = parseLine(text.substr(pos, span.contentEnd - pos));
         const bool hasEnd = span.next > span.contentEnd;
@@ -128,35 +129,47 @@ bool WritePrivateProfileStringA(const char* section, const char* key, const char
         if (exact.keyBegin == kNone) return true;
         return replaceFile(fileName, {text.substr(0, exact.keyBegin), text.substr(exact.keyNext)});
     }
-    return replaceFile(fileName, {editedProfileText(text, sectionName, keyName, value)});
+    editProfileText(content, sectionName, keyName, value);
+    return replaceFile(fileName, {content});
 }
 
-std::string editedProfileText(std::string_view text, std::string_view sectionName,
-                              std::string_view keyName, std::string_view value) {
-    const SectionLayout layout = locate(text, sectionName, keyName, true);
-    std::string out;
-    out.reserve(text.size() + sectionName.size() + keyName.size() + value.size() + 8);
-    const auto join = [&out](std::initializer_list<std::string_view> parts) {
-        for (const std::string_view part : parts)
-            out.append(part);
-        return std::move(out);
+void editProfileText(std::string& text, std::string_view sectionName, std::string_view keyName,
+                     std::string_view value) {
+    const auto appendSection = [&] {
+        const bool needsEnd = !endsWithLineEnd(text);
+        text.reserve(text.size() + sectionName.size() + keyName.size() + value.size() + 8);
+        if (needsEnd) text.append(kLineEnd);
+        text.append("[").append(sectionName).append("]").append(kLineEnd);
+        text.append(keyName).append("=").append(value).append(kLineEnd);
+    };
+    // A section met for the first time (each DATA section of a graph file, after megabytes of
+    // tables) needs no line-by-line walk.
+    const std::size_t header = findSectionHeader(text, sectionName);
+    if (header == kNone) return appendSection();
+
+    const SectionLayout layout = locate(text, sectionName, keyName, true, header);
+    const auto line = [&](std::string_view name) {
+        std::string l;
+        l.reserve(name.size() + value.size() + 3);
+        l.append(name).append("=").append(value).append(kLineEnd);
+        return l;
     };
     if (layout.keyBegin != kNone) {
         // The line is rewritten with the file's spelling of the key and a CR LF.
-        return join({text.substr(0, layout.keyBegin), layout.keyName, "=", value, kLineEnd,
-                     text.substr(layout.keyNext)});
+        const std::string replacement = line(layout.keyName);
+        text.replace(layout.keyBegin, layout.keyNext - layout.keyBegin, replacement);
+        return;
     }
     if (layout.found) {
         // A new key goes right after the section's last key line, or after its header.
         const bool afterKey = layout.afterLastKey != kNone;
         const std::size_t at = afterKey ? layout.afterLastKey : layout.afterHeader;
         const bool precededByEnd = afterKey ? layout.lastKeyHasEnd : layout.headerHasEnd;
-        return join({text.substr(0, at), precededByEnd ? "" : kLineEnd, keyName, "=", value,
-                     kLineEnd, text.substr(at)});
+        text.insert(at, (precededByEnd ? "" : std::string(kLineEnd)) + line(keyName));
+        return;
     }
     // A new section goes at the end of the file, with no blank line before it.
-    return join({text, endsWithLineEnd(text) ? "" : kLineEnd, "[", sectionName, "]", kLineEnd,
-                 keyName, "=", value, kLineEnd});
+    appendSection();
 }
 
 bool writeProfileString(const std::string& section, const std::string& key,

@@ -31,7 +31,7 @@ ProfileDocument::ProfileDocument(std::string fileName) : fileName_(std::move(fil
 bool ProfileDocument::write(std::string_view section, std::string_view key,
                             std::string_view value) {
     if (!usable_) return false;
-    text_ = editedProfileText(text_, trimSpaces(section), trimSpaces(key), value);
+    editProfileText(text_, trimSpaces(section), trimSpaces(key), value);
     return true;
 }
 

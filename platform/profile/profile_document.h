@@ -19,6 +19,8 @@ class ProfileDocument {
     bool write(std::string_view section, std::string_view key, std::string_view value);
     // Appends bytes at the end, as a file opened for appending would get them.
     bool append(std::string_view bytes);
+    // Makes room for `bytes` more, so that large appends do not move the text again.
+    void reserve(std::size_t bytes) { text_.reserve(text_.size() + bytes); }
     // Writes the bytes back to the file; false when that fails.
     bool save();
 

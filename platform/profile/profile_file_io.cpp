@@ -30,8 +30,8 @@ std::string temporaryNameFor(const std::string& target) {
 
 }  // namespace
 
-ReadResult readWholeFile(const char* fileName, std::string& content) {
-    content.clear();
+ReadResult readSharedFile(const char* fileName, std::shared_ptr<const std::string>& content) {
+    content.reset();
     errno = 0;
     FilePtr file(std::fopen(fileName, "rb"));
     if (!file) return errno == ENOENT ? ReadResult::Missing : ReadResult::Failed;
@@ -39,21 +39,36 @@ ReadResult readWholeFile(const char* fileName, std::string& content) {
     struct stat before {};
     if (fstat(fileno(file.get()), &before) != 0 || !S_ISREG(before.st_mode))
         return ReadResult::Failed;
-    if (cachedContent(fileName, before, content)) return ReadResult::Ok;
+    content = cachedContent(fileName, before);
+    if (content) return ReadResult::Ok;
+    auto bytes = std::make_shared<std::string>();
+    if (before.st_size > 0) bytes->reserve(static_cast<std::size_t>(before.st_size));
     char chunk[64 * 1024];
     for (;;) {
         const std::size_t got = std::fread(chunk, 1, sizeof chunk, file.get());
-        content.append(chunk, got);
+        bytes->append(chunk, got);
         if (got < sizeof chunk) break;
     }
     if (std::ferror(file.get()) != 0) return ReadResult::Failed;
     struct stat after {};
-    if (fstat(fileno(file.get()), &after) == 0 && after.st_size == before.st_size &&
-        after.st_mtim.tv_sec == before.st_mtim.tv_sec &&
-        after.st_mtim.tv_nsec == before.st_mtim.tv_nsec &&
-        content.size() == static_cast<std::size_t>(after.st_size))
-        rememberContent(fileName, after, content);
+    const bool unchanged = fstat(fileno(file.get()), &after) == 0 &&
+                           after.st_size == before.st_size &&
+                           after.st_mtim.tv_sec == before.st_mtim.tv_sec &&
+                           after.st_mtim.tv_nsec == before.st_mtim.tv_nsec &&
+                           bytes->size() == static_cast<std::size_t>(after.st_size);
+    content = std::move(bytes);
+    if (unchanged) rememberContent(fileName, after, content);
     return ReadResult::Ok;
+}
+
+ReadResult readWholeFile(const char* fileName, std::string& content) {
+    std::shared_ptr<const std::string> shared;
+    const ReadResult result = readSharedFile(fileName, shared);
+    if (shared)
+        content = *shared;
+    else
+        content.clear();
+    return result;
 }
 
 bool replaceFile(const char* fileName, std::initializer_list<std::string_view> parts) {

@@ -98,4 +98,19 @@ ProfileLine parseLine(std::string_view line) {
             stripQuotes(trimBlanks(text.substr(eq + 1)))};
 }
 
+std::size_t findSectionHeader(std::string_view text, std::string_view section) {
+    for (std::size_t at = text.find('['); at != std::string_view::npos;
+         at = text.find('[', at + 1)) {
+        std::size_t start = at;
+        while (start > 0 && isBlank(text[start - 1]))
+            --start;
+        if (start > 0 && text[start - 1] != '\n' && text[start - 1] != '\r') continue;
+        const LineSpan span = splitLine(text, start);
+        const ProfileLine parsed = parseLine(text.substr(start, span.contentEnd - start));
+        if (parsed.kind == LineKind::Section && equalsIgnoreCase(parsed.name, section))
+            return start;
+    }
+    return std::string_view::npos;
+}
+
 }  // namespace zt::profile

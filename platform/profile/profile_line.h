@@ -35,6 +35,11 @@ struct ProfileLine {
 // skip the lines of sections it is not interested in (an unclosed header passes it too).
 bool isSectionLine(std::string_view line);
 
+// Offset of the first line that is a header naming `section` (case-insensitive), npos when
+// there is none. Looks only at the '[' characters that begin a line, so a file of megabytes of
+// data lines is crossed at memchr speed.
+std::size_t findSectionHeader(std::string_view text, std::string_view section);
+
 // Classifies one line (without its line end) the way the Windows profile reader does.
 ProfileLine parseLine(std::string_view line);
 

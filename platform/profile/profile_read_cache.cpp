@@ -10,7 +10,7 @@ struct CachedFile {
     ino_t inode = 0;
     off_t size = -1;
     struct timespec modified {};
-    std::string content;
+    std::shared_ptr<const std::string> content;
 };
 
 // One entry per thread: lookups of one import run on one thread, and nothing is shared.
@@ -27,28 +27,27 @@ bool sameFile(const CachedFile& c, const char* fileName, const struct stat& info
 
 }  // namespace
 
-bool cachedContent(const char* fileName, const struct stat& info, std::string& content) {
+std::shared_ptr<const std::string> cachedContent(const char* fileName, const struct stat& info) {
     const CachedFile& c = cache();
-    if (!sameFile(c, fileName, info)) return false;
-    content = c.content;
-    return true;
+    return sameFile(c, fileName, info) ? c.content : nullptr;
 }
 
-void rememberContent(const char* fileName, const struct stat& info, const std::string& content) {
+void rememberContent(const char* fileName, const struct stat& info,
+                     std::shared_ptr<const std::string> content) {
     CachedFile& c = cache();
     c.name = fileName;
     c.device = info.st_dev;
     c.inode = info.st_ino;
     c.size = info.st_size;
     c.modified = info.st_mtim;
-    c.content = content;
+    c.content = std::move(content);
 }
 
 void forgetContent(const char* fileName) {
     CachedFile& c = cache();
     if (c.name == fileName) {
         c.size = -1;
-        c.content.clear();
+        c.content.reset();
     }
 }
 

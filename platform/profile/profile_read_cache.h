@@ -5,16 +5,18 @@
 // in its size or time stamp.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include <sys/stat.h>
 
 namespace zt::profile {
 
-// Copies the cached bytes into `content` when they belong to the file `info` describes.
-bool cachedContent(const char* fileName, const struct stat& info, std::string& content);
+// The cached bytes when they belong to the file `info` describes, else null.
+std::shared_ptr<const std::string> cachedContent(const char* fileName, const struct stat& info);
 // Keeps `content` as the bytes of the file `info` describes.
-void rememberContent(const char* fileName, const struct stat& info, const std::string& content);
+void rememberContent(const char* fileName, const struct stat& info,
+                     std::shared_ptr<const std::string> content);
 // Drops the cached bytes of `fileName`.
 void forgetContent(const char* fileName);
 
