@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "core/graph_state.h"
 #include "platform/host_locale.h"
@@ -31,7 +32,7 @@ int16_t writeGraphTextFile(const GraphState& state, const std::string& fileName,
                            const ProfileWriter& writeKey);
 
 // Appends bytes at the end of the file; false when the file could not be opened or written.
-using FileAppender = std::function<bool(const std::string& bytes)>;
+using FileAppender = std::function<bool(std::string_view bytes)>;
 
 // The same with the appending given.
 int16_t writeGraphTextFile(const GraphState& state, int32_t result, const std::string& dataHeader,
@@ -45,7 +46,13 @@ int16_t writeGraphTextFile(const GraphState& state, int32_t result, const std::s
 int16_t exportGraphTextFile(const GraphState& state, const std::string& fileName, int32_t result,
                             const std::string& dataHeader, const HostLocale& locale, int codePage);
 
-// The data lines of one slot ("120,0,5,-312,4000,0,0" CR LF, 10,000 of them).
-std::string dataLines(const GRAPH_RESULT_INFO& graph);
+// Longest text of one slot's data lines: seven numbers of at most 11 characters, six commas and
+// CR LF per line.
+inline constexpr std::size_t kDataLinesMax =
+    static_cast<std::size_t>(kDataLines) * (7 * 11 + 6 + 2);
+
+// Writes the data lines of one slot ("120,0,5,-312,4000,0,0" CR LF, 10,000 of them) at `out`,
+// which has room for kDataLinesMax characters; returns the end of what was written.
+char* writeDataLines(char* out, const GRAPH_RESULT_INFO& graph);
 
 }  // namespace zt

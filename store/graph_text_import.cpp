@@ -1,14 +1,17 @@
 #include "store/graph_text_import.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
-#include <fstream>
+#include <cstdint>
+#include <cstring>
 #include <iterator>
 #include <limits>
+#include <memory>
 #include <optional>
-#include <sstream>
 
 #include "core/channel_colors.h"
+#include "platform/profile/profile_file_io.h"
 #include "platform/text/code_page.h"
 #include "platform/text/numeric.h"
 #include "platform/text/rounding.h"
@@ -312,6 +315,74 @@ void storeField(SampleRecord& r, int field, std::string_view v) {
     }
 }
 
+// Reads the field at `p` (up to the next comma or `end`) into `target` when, without its
+// blanks, it is a plain signed decimal integer of at most 18 digits that fits; anything else
+// is skipped. The same rule as readField, in one pass over the characters. Returns the field's
+// end, or null for a field in double quotes, which may hold commas.
+template <typename T>
+const char* scanField(const char* p, const char* end, T& target) {
+    while (p != end && isBlank(*p))
+        ++p;
+    if (p != end && *p == '"') return nullptr;  // quoted: the line needs splitFields
+    // The sign without a branch: random data has either sign half the time.
+    const bool negative = p != end && *p == '-';
+    p += static_cast<int>(p != end && (*p == '-' || *p == '+'));
+    const char* const digits = p;
+    uint64_t v = 0;
+    bool moreDigits = true;
+    if (std::endian::native == std::endian::little && end - p >= 8) {
+        // The first eight characters at once: the run of digits found and valued with a few
+        // multiplies instead of one unpredictable branch per digit.
+        uint64_t chunk = 0;
+        std::memcpy(&chunk, p, 8);
+        const uint64_t values = chunk ^ 0x3030303030303030u;  // a digit becomes 0 to 9
+        // A byte is no digit when its high nibble is set or adding 6 carries into it; a carry
+        // into later bytes only follows a byte already marked.
+        const uint64_t marks = (values | (values + 0x0606060606060606u)) & 0xF0F0F0F0F0F0F0F0u;
+        const int run = marks == 0 ? 8 : std::countr_zero(marks) / 8;
+        if (run > 0) {
+            uint64_t d = values << (8 * (8 - run));  // leading zero digits fill the word
+            d = (d * 10 + (d >> 8)) & 0x00FF00FF00FF00FFu;
+            d = (d * 100 + (d >> 16)) & 0x0000FFFF0000FFFFu;
+            v = (d * 10000 + (d >> 32)) & 0xFFFFFFFFu;
+            p += run;
+        }
+        moreDigits = run == 8;
+    }
+    while (moreDigits && p != end && static_cast<unsigned char>(*p - '0') < 10) {
+        v = v * 10 + static_cast<unsigned>(*p - '0');
+        ++p;
+    }
+    const auto count = static_cast<std::size_t>(p - digits);
+    while (p != end && isBlank(*p))
+        ++p;
+    if (p != end && *p != ',') {
+        // Not a number: skip to the field's end.
+        p = static_cast<const char*>(std::memchr(p, ',', static_cast<std::size_t>(end - p)));
+        return p != nullptr ? p : end;
+    }
+    if (count == 0 || count > 18) return p;
+    const int64_t value = negative ? -static_cast<int64_t>(v) : static_cast<int64_t>(v);
+    if (value >= std::numeric_limits<T>::min() && value <= std::numeric_limits<T>::max())
+        target = static_cast<T>(value);
+    return p;
+}
+
+// The field `field` (0 to 6) of a sample record at `p`; returns the field's end (null for a
+// quoted field).
+const char* scanRecordField(const char* p, const char* end, SampleRecord& r, int field) {
+    switch (field) {
+        case 0:
+            return scanField(p, end, r.lngDiffTime);
+        case 1:
+            return scanField(p, end, r.intFaultData);
+        case 2:
+            return scanField(p, end, r.intDigitalData);
+        default:
+            return scanField(p, end, r.lngAnalogData[static_cast<std::size_t>(field - 3)]);
+    }
+}
+
 // Sequential reader over the file's lines.
 class LineCursor {
   public:
@@ -380,26 +451,25 @@ void readSampleTablesFromText(GraphState& state, std::string_view text) {
             if (!line.empty() && line.front() == '[') break;
             lines.next();
             if (line.empty()) continue;
-            if (line.find('"') == std::string_view::npos) {
-                // Plain line: each field read in one pass, straight into the record.
-                const char* p = line.data();
-                const char* const end = p + line.size();
-                while (index < samples.size()) {
-                    const char* const fieldStart = p;
-                    while (p != end && *p != ',')
-                        ++p;
-                    storeField(samples[index], field,
-                               trimView(std::string_view(
-                                   fieldStart, static_cast<std::size_t>(p - fieldStart))));
-                    if (++field == 7) {
-                        field = 0;
-                        ++index;
-                    }
-                    if (p == end) break;
-                    ++p;
+            // Plain line: each field read in one pass, straight into the record. A quoted field
+            // sends the line, from its first field again, through splitFields.
+            const int lineField = field;
+            const std::size_t lineIndex = index;
+            const char* p = line.data();
+            const char* const end = p + line.size();
+            while (index < samples.size()) {
+                p = scanRecordField(p, end, samples[index], field);
+                if (p == nullptr) break;
+                if (++field == 7) {
+                    field = 0;
+                    ++index;
                 }
-                continue;
+                if (p == end) break;
+                ++p;
             }
+            if (p != nullptr) continue;
+            field = lineField;
+            index = lineIndex;
             splitFields(line, fields);
             for (std::string_view v : fields) {
                 if (index >= samples.size()) break;
@@ -414,19 +484,10 @@ void readSampleTablesFromText(GraphState& state, std::string_view text) {
 }
 
 void readSampleTables(GraphState& state, const std::string& fileName) {
-    std::ifstream in(fileName, std::ios::binary);
-    std::string text;
-    if (in) {
-        in.seekg(0, std::ios::end);
-        const auto size = in.tellg();
-        in.seekg(0, std::ios::beg);
-        if (size > 0) {
-            text.resize(static_cast<std::size_t>(size));
-            in.read(text.data(), size);
-            text.resize(static_cast<std::size_t>(std::max<std::streamsize>(in.gcount(), 0)));
-        }
-    }
-    readSampleTablesFromText(state, text);
+    // The bytes the keyed reads just read, unless the file has changed or gone since.
+    std::shared_ptr<const std::string> text;
+    profile::readSharedFile(fileName.c_str(), text);
+    readSampleTablesFromText(state, text ? std::string_view(*text) : std::string_view());
 }
 
 }  // namespace zt

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -27,37 +28,70 @@ struct FileCloser {
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
-// Little-endian field writer into one buffer, written to the file in one piece.
+// Sample records lie in memory exactly as the block stores them (24 bytes, little-endian,
+// fields in order), so whole tables go to and from the file in one piece.
+constexpr bool kRecordsAsStored =
+    std::endian::native == std::endian::little && sizeof(SampleRecord) == kSampleRecordBytes &&
+    offsetof(SampleRecord, intFaultData) == 4 && offsetof(SampleRecord, intDigitalData) == 6 &&
+    offsetof(SampleRecord, lngAnalogData) == 8;
+
+// Little-endian field writer: small fields are gathered in a buffer, arrays are written
+// straight from memory after it.
 class BlockWriter {
   public:
+    explicit BlockWriter(std::FILE* file) : file_(file) {}
+    bool ok() const { return ok_; }
+
     template <typename T>
     void put(T value) {
         uint8_t bytes[sizeof(T)];
         std::memcpy(bytes, &value, sizeof(T));
         if constexpr (std::endian::native == std::endian::big)
             std::reverse(bytes, bytes + sizeof(T));
-        out_.append(reinterpret_cast<const char*>(bytes), sizeof(T));
+        pending_.append(reinterpret_cast<const char*>(bytes), sizeof(T));
     }
-    void raw(const std::string& bytes) { out_ += bytes; }
-    // The elements of an array of doubles, as they lie in memory on a little-endian machine.
-    void doubles(const std::vector<double>& values) {
-        if constexpr (std::endian::native == std::endian::little) {
-            out_.append(reinterpret_cast<const char*>(values.data()),
-                        values.size() * sizeof(double));
-        } else {
-            for (double v : values)
-                put(v);
-        }
-    }
+    void raw(const std::string& bytes) { pending_ += bytes; }
     void arrayHeader(int32_t count) {
         put<int16_t>(1);
         put<int32_t>(count);
         put<int32_t>(0);
     }
-    std::string& bytes() { return out_; }
+    void doubles(const std::vector<double>& values) {
+        if constexpr (std::endian::native == std::endian::little) {
+            bulk(values.data(), values.size() * sizeof(double));
+        } else {
+            for (double v : values)
+                put(v);
+        }
+    }
+    void records(const std::vector<SampleRecord>& samples) {
+        if constexpr (kRecordsAsStored) {
+            bulk(samples.data(), samples.size() * kSampleRecordBytes);
+        } else {
+            const std::size_t at = pending_.size();
+            pending_.resize(at + samples.size() * kSampleRecordBytes);
+            auto* out = reinterpret_cast<uint8_t*>(pending_.data() + at);
+            for (std::size_t i = 0; i < samples.size(); ++i)
+                encode(samples[i], std::span<uint8_t, kSampleRecordBytes>(
+                                       out + i * kSampleRecordBytes, kSampleRecordBytes));
+        }
+    }
+    void flush() {
+        write(pending_.data(), pending_.size());
+        pending_.clear();
+    }
 
   private:
-    std::string out_;
+    void bulk(const void* data, std::size_t n) {
+        flush();
+        write(data, n);
+    }
+    void write(const void* data, std::size_t n) {
+        if (ok_ && n != 0 && std::fwrite(data, 1, n, file_) != n) ok_ = false;
+    }
+    std::FILE* file_;
+    std::string pending_;
+    bool ok_ = true;
 };
 
 class BlockReader {
@@ -118,14 +152,22 @@ class BlockReader {
             ok_ = false;
             return;
         }
-        std::vector<uint8_t> bytes(static_cast<std::size_t>(count) * kSampleRecordBytes);
-        read(bytes.data(), bytes.size());
+        const auto stored = static_cast<std::size_t>(count);
+        const std::size_t kept = std::min<std::size_t>(kGraphRecords, stored);
         out.assign(kGraphRecords, SampleRecord{});
-        if (!ok_) return;
-        for (std::size_t i = 0;
-             i < std::min<std::size_t>(kGraphRecords, static_cast<std::size_t>(count)); ++i)
-            out[i] = decodeSampleRecord(std::span<const uint8_t, kSampleRecordBytes>(
-                bytes.data() + i * kSampleRecordBytes, kSampleRecordBytes));
+        if constexpr (kRecordsAsStored) {
+            read(out.data(), kept * kSampleRecordBytes);
+        } else {
+            std::vector<uint8_t> bytes(kept * kSampleRecordBytes);
+            read(bytes.data(), bytes.size());
+            for (std::size_t i = 0; ok_ && i < kept; ++i)
+                out[i] = decodeSampleRecord(std::span<const uint8_t, kSampleRecordBytes>(
+                    bytes.data() + i * kSampleRecordBytes, kSampleRecordBytes));
+        }
+        // Records past the component's 10,000 are read and dropped.
+        std::vector<uint8_t> surplus((stored - kept) * kSampleRecordBytes);
+        read(surplus.data(), surplus.size());
+        if (!ok_) out.assign(kGraphRecords, SampleRecord{});
     }
 
   private:
@@ -234,8 +276,7 @@ bool writeProjectBlock(GraphState& state, const std::string& fileName, int64_t p
     if (std::fseek(file.get(), static_cast<long>(position - 1), SEEK_SET) != 0) return false;
 
     state.version = GRAPH_VERSION_INFO{"4.00", 5};
-    BlockWriter w;
-    w.bytes().reserve(static_cast<std::size_t>(kProjectBlockBytes));
+    BlockWriter w(file.get());
     const std::string version = text::toAnsi(state.version.strMainVersion, codePage);
     w.put(static_cast<int16_t>(version.size()));
     w.raw(version);
@@ -264,19 +305,13 @@ bool writeProjectBlock(GraphState& state, const std::string& fileName, int64_t p
         const auto& samples =
             state.history.udtGraphResultInfo[static_cast<std::size_t>(slot)].udtSample;
         w.arrayHeader(static_cast<int32_t>(samples.size()));
-        const std::size_t at = w.bytes().size();
-        w.bytes().resize(at + samples.size() * kSampleRecordBytes);
-        auto* out = reinterpret_cast<uint8_t*>(w.bytes().data() + at);
-        for (std::size_t i = 0; i < samples.size(); ++i)
-            encode(samples[i], std::span<uint8_t, kSampleRecordBytes>(out + i * kSampleRecordBytes,
-                                                                      kSampleRecordBytes));
+        w.records(samples);
     }
     for (int slot = 1; slot <= state.version.lngHistoryMax; ++slot)
         w.raw(commentBytes(state.history.strComments[static_cast<std::size_t>(slot)], codePage));
 
-    const std::string& bytes = w.bytes();
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) return false;
-    if (std::fflush(file.get()) != 0) return false;
+    w.flush();
+    if (!w.ok() || std::fflush(file.get()) != 0) return false;
     return std::fclose(file.release()) == 0;
 }
 
