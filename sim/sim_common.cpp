@@ -1,7 +1,10 @@
 #include "sim/sim_common.h"
 
+#include "sim/sim_project_file.h"
+
 #include <filesystem>
 #include <fstream>
+#include <limits>
 #include <system_error>
 
 #include "sim/drive_catalogue.h"
@@ -182,20 +185,24 @@ std::string SimCommon::GetProjectBlockName() {
     return kProjectBlockName;
 }
 
+namespace {
+// The common library answers positions in 32 bits: a block beyond that is none.
+int32_t positionAnswer(int64_t position) {
+    return position > std::numeric_limits<int32_t>::max() ? -1 : static_cast<int32_t>(position);
+}
+}  // namespace
+
 int32_t SimCommon::GetBlockWritePosition(const std::string& fileName,
                                          const std::string& blockName) {
     if (fileName.empty() || blockName != kProjectBlockName) return -1;
     if (blockPosition_) return *blockPosition_;
-    return kProjectBlockPosition;
+    return positionAnswer(reserveProjectBlock(fileName, blockName));
 }
 
 int32_t SimCommon::GetBlockReadPosition(const std::string& fileName, const std::string& blockName) {
     if (fileName.empty() || blockName != kProjectBlockName) return -1;
     if (blockPosition_) return *blockPosition_;
-    std::error_code ec;
-    const auto size = std::filesystem::file_size(fileName, ec);
-    if (ec || size <= static_cast<std::uintmax_t>(kProjectHeaderBytes)) return -1;
-    return kProjectBlockPosition;
+    return positionAnswer(findProjectBlock(fileName, blockName));
 }
 
 void SimCommon::TabMouseMove(const std::string& tabStripName, int16_t button, float xPixels,

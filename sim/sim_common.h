@@ -15,9 +15,7 @@
 
 namespace zt::sim {
 
-// Host project-file convention: a fixed header, then the component's block.
-inline constexpr int32_t kProjectHeaderBytes = 256;
-inline constexpr int32_t kProjectBlockPosition = kProjectHeaderBytes + 1;  // first byte is 1
+// The name of the component's block in the host's project file (see sim_project_file.h).
 inline constexpr const char* kProjectBlockName = "ztGraph";
 
 // Verdicts of CheckHighSpeedSampling.
@@ -42,7 +40,7 @@ class SimCommon : public zt::ztCommon {
     void setLocale(const HostLocale& locale) { locale_ = locale; }
     // A host whose project file keeps the component's block elsewhere: both block-position
     // operations answer `position` (first byte 1, -1 for none) for any file; nullopt returns
-    // to the fixed header.
+    // to the table of the simulated project file.
     void setBlockPosition(std::optional<int32_t> position) { blockPosition_ = position; }
     // The host's message table; an entry overrides the component's built-in default text.
     void setMessage(int32_t number, std::string text) { messages_[number] = std::move(text); }

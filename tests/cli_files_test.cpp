@@ -44,7 +44,7 @@ TEST_F(CliFilesTest, InfoPrintsTheImportedGraphAsJson) {
 
 TEST_F(CliFilesTest, InfoReadsTheProjectBlockAtItsOffset) {
     std::ostringstream out, err;
-    ASSERT_EQ(runInfo({(dir / "project.ztp").string(), "--offset", "256"}, out, err), 0)
+    ASSERT_EQ(runInfo({(dir / "project.ztp").string(), "--offset", "336"}, out, err), 0)
         << err.str();
     EXPECT_NE(out.str().find("version \"4.00\""), std::string::npos) << out.str();
     std::ostringstream bad, badErr;

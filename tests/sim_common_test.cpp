@@ -1,4 +1,5 @@
 #include "sim/sim_common.h"
+#include "sim/sim_project_file.h"
 
 #include <gtest/gtest.h>
 
@@ -184,20 +185,43 @@ TEST(SimCommonGraphFile, HeaderIsWrittenAnewWithCrLfAndTheLocaleSeparator) {
         common.WriteGraphFileHeader((tempDir() / "no-such-dir" / "x.gp3").string(), "1.00", 0), -1);
 }
 
-TEST(SimCommonProject, BlockFollowsAFixedHeader) {
+TEST(SimCommonProject, BlocksAreFoundByNameInTheFilesTable) {
     SimCommon common;
     const std::string block = common.GetProjectBlockName();
     EXPECT_EQ(block, "ztGraph");
     const auto path = tempDir() / "project.prj";
     std::filesystem::remove(path);
-    EXPECT_EQ(common.GetBlockWritePosition(path.string(), block), kProjectHeaderBytes + 1);
     EXPECT_EQ(common.GetBlockReadPosition(path.string(), block), -1);  // missing file
-    std::ofstream(path, std::ios::binary) << std::string(kProjectHeaderBytes, '\0');
+    EXPECT_EQ(common.GetBlockWritePosition(path.string(), block), kFirstBlockPosition);
+    EXPECT_EQ(std::filesystem::file_size(path), static_cast<uintmax_t>(kProjectHeaderBytes));
     EXPECT_EQ(common.GetBlockReadPosition(path.string(), block), -1);  // header only
     std::ofstream(path, std::ios::binary | std::ios::app) << "block";
-    EXPECT_EQ(common.GetBlockReadPosition(path.string(), block), kProjectHeaderBytes + 1);
-    EXPECT_EQ(common.GetBlockWritePosition(path.string(), "Other"), -1);
+    EXPECT_EQ(common.GetBlockReadPosition(path.string(), block), kFirstBlockPosition);
+    EXPECT_EQ(common.GetBlockWritePosition(path.string(), block), kFirstBlockPosition);
+    // Another component's block goes after what the file holds.
+    EXPECT_EQ(findProjectBlock(path.string(), "Other"), -1);
+    EXPECT_EQ(reserveProjectBlock(path.string(), "Other"), kFirstBlockPosition + 5);
+    EXPECT_EQ(common.GetBlockReadPosition(path.string(), block), kFirstBlockPosition);
+    EXPECT_EQ(common.GetBlockWritePosition(path.string(), "Other"), -1);  // not the component's
     EXPECT_EQ(common.GetBlockWritePosition("", block), -1);
+}
+
+TEST(SimCommonProject, AForeignFileIsNoProjectFile) {
+    SimCommon common;
+    const auto path = tempDir() / "foreign.prj";
+    std::ofstream(path, std::ios::binary | std::ios::trunc) << std::string(400, 'x');
+    EXPECT_EQ(common.GetBlockWritePosition(path.string(), kProjectBlockName), -1);
+    EXPECT_EQ(common.GetBlockReadPosition(path.string(), kProjectBlockName), -1);
+    EXPECT_EQ(std::filesystem::file_size(path), 400u);
+}
+
+TEST(SimCommonProject, AFullTableTakesNoMoreBlocks) {
+    const auto path = (tempDir() / "full.prj").string();
+    std::filesystem::remove(path);
+    for (int i = 0; i < kProjectTableEntries; ++i)
+        EXPECT_GT(reserveProjectBlock(path, "b" + std::to_string(i)), 0);
+    EXPECT_EQ(reserveProjectBlock(path, "one more"), -1);
+    EXPECT_EQ(reserveProjectBlock(path, std::string(32, 'n')), -1);  // name too long
 }
 
 }  // namespace

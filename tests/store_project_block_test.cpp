@@ -12,6 +12,7 @@
 
 #include "control/graph_control.h"
 #include "sim/sim_common_library.h"
+#include "sim/sim_project_file.h"
 #include "store/project_block.h"
 #include "store/state_reset.h"
 
@@ -298,11 +299,11 @@ TEST_F(ProjectFileTest, DamagedBlocksGiveMinusOneAndLeaveTheStateReset) {
         std::string bytes;
     };
     std::string badVersion = good;
-    badVersion[sim::kProjectBlockPosition - 1 + 2] = '9';
+    badVersion[sim::kFirstBlockPosition - 1 + 2] = '9';
     const std::vector<Damage> damages = {
         {"unknown version", badVersion},
         {"truncated", good.substr(0, good.size() - 1000)},
-        {"header only", good.substr(0, sim::kProjectBlockPosition - 1)},
+        {"header only", good.substr(0, sim::kFirstBlockPosition - 1)},
     };
     for (const Damage& d : damages) {
         std::ofstream(file, std::ios::binary | std::ios::trunc) << d.bytes;
@@ -332,7 +333,8 @@ namespace {
 TEST_F(ProjectFileTest, ARandomVersion4BlockLoadsWithoutFailing) {
     std::mt19937 rng(99);
     for (int round = 0; round < 3; ++round) {
-        std::string bytes(static_cast<std::size_t>(sim::kProjectBlockPosition - 1), '\0');
+        std::string bytes =
+            sim::projectFileHeader({{sim::kProjectBlockName, sim::kFirstBlockPosition}});
         bytes += std::string("\x04\x00", 2) + "4.00" + std::string("\x05\x00\x00\x00", 4);
         std::string rest(static_cast<std::size_t>(kProjectBlockBytes - 10), '\0');
         for (char& c : rest)
