@@ -320,7 +320,7 @@ void storeField(SampleRecord& r, int field, std::string_view v) {
 // is skipped. The same rule as readField, in one pass over the characters. Returns the field's
 // end, or null for a field in double quotes, which may hold commas.
 template <typename T>
-const char* scanField(const char* p, const char* end, T& target) {
+const char* scanField(const char* p, const char* end, const char* limit, T& target) {
     while (p != end && isBlank(*p))
         ++p;
     if (p != end && *p == '"') return nullptr;  // quoted: the line needs splitFields
@@ -330,7 +330,7 @@ const char* scanField(const char* p, const char* end, T& target) {
     const char* const digits = p;
     uint64_t v = 0;
     bool moreDigits = true;
-    if (std::endian::native == std::endian::little && end - p >= 8) {
+    if (std::endian::native == std::endian::little && limit - p >= 8) {
         // The first eight characters at once: the run of digits found and valued with a few
         // multiplies instead of one unpredictable branch per digit.
         uint64_t chunk = 0;
@@ -339,7 +339,8 @@ const char* scanField(const char* p, const char* end, T& target) {
         // A byte is no digit when its high nibble is set or adding 6 carries into it; a carry
         // into later bytes only follows a byte already marked.
         const uint64_t marks = (values | (values + 0x0606060606060606u)) & 0xF0F0F0F0F0F0F0F0u;
-        const int run = marks == 0 ? 8 : std::countr_zero(marks) / 8;
+        const int run = static_cast<int>(
+            std::min<std::ptrdiff_t>(marks == 0 ? 8 : std::countr_zero(marks) / 8, end - p));
         if (run > 0) {
             uint64_t d = values << (8 * (8 - run));  // leading zero digits fill the word
             d = (d * 10 + (d >> 8)) & 0x00FF00FF00FF00FFu;
@@ -370,17 +371,38 @@ const char* scanField(const char* p, const char* end, T& target) {
 
 // The field `field` (0 to 6) of a sample record at `p`; returns the field's end (null for a
 // quoted field).
-const char* scanRecordField(const char* p, const char* end, SampleRecord& r, int field) {
+const char* scanRecordField(const char* p, const char* end, const char* limit, SampleRecord& r,
+                            int field) {
     switch (field) {
         case 0:
-            return scanField(p, end, r.lngDiffTime);
+            return scanField(p, end, limit, r.lngDiffTime);
         case 1:
-            return scanField(p, end, r.intFaultData);
+            return scanField(p, end, limit, r.intFaultData);
         case 2:
-            return scanField(p, end, r.intDigitalData);
+            return scanField(p, end, limit, r.intDigitalData);
         default:
-            return scanField(p, end, r.lngAnalogData[static_cast<std::size_t>(field - 3)]);
+            return scanField(p, end, limit, r.lngAnalogData[static_cast<std::size_t>(field - 3)]);
     }
+}
+
+// The seven fields of a line that holds exactly one record, each followed by a comma but the
+// last, into `r`; returns `end` when the line was such a line (nothing is stored otherwise).
+const char* scanWholeRecord(const char* p, const char* end, const char* limit, SampleRecord& r) {
+    SampleRecord read = r;
+    const auto next = [&](auto& target, bool last) {
+        if (p == nullptr) return;
+        p = scanField(p, end, limit, target);
+        if (p == nullptr || last) return;
+        p = p != end && *p == ',' ? p + 1 : nullptr;
+    };
+    next(read.lngDiffTime, false);
+    next(read.intFaultData, false);
+    next(read.intDigitalData, false);
+    for (std::size_t i = 0; i < read.lngAnalogData.size(); ++i)
+        next(read.lngAnalogData[i], i + 1 == read.lngAnalogData.size());
+    if (p != end) return nullptr;
+    r = read;
+    return end;
 }
 
 // Sequential reader over the file's lines.
@@ -421,6 +443,8 @@ void readSampleTablesFromText(GraphState& state, std::string_view text) {
     }
     LineCursor lines(text);
     std::vector<std::string_view> fields;
+    // Fields are read eight bytes at a time, also across their line's end within the text.
+    const char* const limit = text.data() + text.size();
     for (int slot = 1; slot < kHistorySlots; ++slot) {
         const std::string wanted = "[" + dataSectionName(slot) + "]";
         // Look for the slot's section from where the previous slot stopped.
@@ -457,8 +481,15 @@ void readSampleTablesFromText(GraphState& state, std::string_view text) {
             const std::size_t lineIndex = index;
             const char* p = line.data();
             const char* const end = p + line.size();
+            if (field == 0) {
+                // The usual line: one whole record, its seven fields in a row.
+                if (scanWholeRecord(p, end, limit, samples[index]) == end) {
+                    ++index;
+                    continue;
+                }
+            }
             while (index < samples.size()) {
-                p = scanRecordField(p, end, samples[index], field);
+                p = scanRecordField(p, end, limit, samples[index], field);
                 if (p == nullptr) break;
                 if (++field == 7) {
                     field = 0;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <map>
+#include <memory>
 #include <utility>
 
 #include "platform/text/best_fit.h"
@@ -221,12 +223,48 @@ std::string AnsiCodec::fromAnsi(std::string_view bytes) {
         });
 }
 
+namespace {
+
+// The Windows ANSI code pages (and UTF-8): each keeps the bytes 0x00-0x7F as ASCII.
+bool keepsAscii(int codePage) {
+    switch (codePage) {
+        case 874:
+        case 932:
+        case 936:
+        case 949:
+        case 950:
+        case 65001:
+            return true;
+        default:
+            return codePage >= 1250 && codePage <= 1258;
+    }
+}
+
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+// Opening a converter costs more than most conversions (section and key names, numbers), so
+// each thread keeps the few it used; a converter starts every conversion from its initial state.
+AnsiCodec& cachedCodec(int codePage) {
+    thread_local std::map<int, std::unique_ptr<AnsiCodec>> codecs;
+    if (codecs.size() > 8 && codecs.find(codePage) == codecs.end()) codecs.clear();
+    std::unique_ptr<AnsiCodec>& codec = codecs[codePage];
+    if (!codec) codec = std::make_unique<AnsiCodec>(codePage);
+    return *codec;
+}
+
+}  // namespace
+
 std::string toAnsi(std::string_view utf8, int codePage) {
-    return AnsiCodec(codePage).toAnsi(utf8);
+    if (keepsAscii(codePage) && isAscii(utf8)) return std::string(utf8);
+    return cachedCodec(codePage).toAnsi(utf8);
 }
 
 std::string fromAnsi(std::string_view bytes, int codePage) {
-    return AnsiCodec(codePage).fromAnsi(bytes);
+    if (keepsAscii(codePage) && isAscii(bytes)) return std::string(bytes);
+    return cachedCodec(codePage).fromAnsi(bytes);
 }
 
 std::size_t ansiByteCount(std::string_view utf8, int codePage) {
@@ -271,7 +309,7 @@ std::string fitAnsi(std::string_view utf8, std::size_t bytes, int codePage) {
 }
 
 std::string cutAnsi(std::string_view utf8, std::size_t bytes, int codePage) {
-    AnsiCodec codec(codePage);
+    AnsiCodec& codec = cachedCodec(codePage);
     std::string out;
     std::size_t used = 0;
     forEachCharacter(utf8, [&](std::string_view character, std::size_t) {
@@ -285,7 +323,7 @@ std::string cutAnsi(std::string_view utf8, std::size_t bytes, int codePage) {
 }
 
 std::string keepAnsiBytes(std::string_view utf8, std::size_t bytes, int codePage) {
-    AnsiCodec codec(codePage);
+    AnsiCodec& codec = cachedCodec(codePage);
     std::string ansi = codec.toAnsi(utf8);
     if (ansi.size() > bytes) ansi.resize(bytes);
     return codec.fromAnsi(ansi);

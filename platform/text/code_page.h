@@ -54,7 +54,7 @@ class AnsiCodec {
     IconvDescriptor fromAnsi_;
 };
 
-// One-off conversions; each builds its own AnsiCodec.
+// One-off conversions through a converter the thread keeps for the code page.
 std::string toAnsi(std::string_view utf8, int codePage);
 std::string fromAnsi(std::string_view bytes, int codePage);
 std::size_t ansiByteCount(std::string_view utf8, int codePage);
