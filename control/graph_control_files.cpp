@@ -159,6 +159,8 @@ int16_t ztGraphControl::LoadKivFile(const std::string& strFileName, VERSION_INFO
     const int16_t rs = state_.runState;
     if (rs == OfflineNoChannel || rs == OfflineReady || rs == OfflineGraph)
         run_.changeRunState(ProjectLoaded);
+    else
+        run_.applySheetLocks();  // the loaded sheets keep this state's locks
     return read ? 0 : -1;
 }
 

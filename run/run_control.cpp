@@ -59,6 +59,11 @@ void RunControl::applyRunState() {
     state_.statusU = view.statusU;
 }
 
+void RunControl::applySheetLocks() {
+    if (terminated() || !hooks_.lockSheets) return;
+    hooks_.lockSheets(runStateView(state_.runState, RunViewInputs{}).sheetsLocked);
+}
+
 bool RunControl::stationsReady() {
     ztCommon& common = host_.common();
     for (int ch = 1; ch <= kChannelCount; ++ch) {

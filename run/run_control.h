@@ -30,6 +30,9 @@ class RunControl {
     void changeRunState(int16_t event);
     // Puts the current state's view on the surface again.
     void applyRunState();
+    // Locks or unlocks the setting sheets as the current state wants them, after code that
+    // rewrote the sheets (a project load) outside a state change.
+    void applySheetLocks();
 
     void cmdStart_Click();
     void cmdStop_Click();

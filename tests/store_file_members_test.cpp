@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "config/sheet_rows.h"
 #include "control/graph_control.h"
 #include "run/run_states.h"
 #include "sim/sim_common_library.h"
@@ -171,6 +172,20 @@ TEST_F(FileMembersTest, ProjectLoadInAnOfflineStateSendsItsEvent) {
     EXPECT_EQ(control->state().version.strMainVersion, "");
     EXPECT_EQ(control->LoadKivFile(path("p.ztp"), version, program), 0);
     EXPECT_EQ(control->state().version.strMainVersion, "4.00");
+}
+
+TEST_F(FileMembersTest, ProjectLoadWhileAGraphIsShownOnlineKeepsThatStatesLocks) {
+    VERSION_INFO version;
+    PROGRAM_VERSION program;
+    control->run().changeRunState(ChannelSet);
+    control->run().changeRunState(GraphLoaded);
+    ASSERT_EQ(control->runState(), OnlineGraph);
+    ASSERT_TRUE(control->surface().sprChannel.locked(1, kRowStation));
+    ASSERT_EQ(control->SaveKivFile(path("p.ztp"), version), 0);
+    EXPECT_EQ(control->LoadKivFile(path("p.ztp"), version, program), 0);
+    EXPECT_EQ(control->runState(), OnlineGraph);
+    EXPECT_TRUE(control->surface().sprChannel.locked(1, kRowStation));
+    EXPECT_FALSE(control->surface().cmdStop.Enabled);
 }
 
 }  // namespace
