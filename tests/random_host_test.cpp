@@ -1,6 +1,8 @@
 // A seeded random host that plays host and user at once: line changes, station hand-overs,
 // Start/Stop/Clear, replies of any size with occasional error codes and late replies, sheet
-// edits by user actions, and a sink that sometimes misbehaves inside ReqCommand. After every
+// edits, scale, cursor and history actions by user actions, colour schemes, file export,
+// import, project save and load in a scratch folder, and a sink that sometimes misbehaves
+// inside ReqCommand. After every
 // step the invariants a host and a user rely on are checked. A failing run prints its seed and
 // its last steps; the same seed and step count replay it.
 //
@@ -8,13 +10,16 @@
 //   ZT_RANDOM_HOST_STEPS=1000000 ZT_RANDOM_HOST_SEEDS=1,2,3,4 ./build/ztgraph_tests
 //   --gtest_filter='RandomHost*'
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <random>
 #include <sstream>
@@ -50,21 +55,34 @@ std::vector<uint64_t> seedsToRun() {
 class RandomHost : public GraphHostSink {
   public:
     explicit RandomHost(uint64_t seed) : rng_(seed) {
+        folder_ = std::filesystem::temp_directory_path() /
+                  ("zt_random_host_" + std::to_string(::getpid()) + "_" + std::to_string(seed));
+        std::filesystem::create_directories(folder_);
         control_.advise(this);
         connect();
     }
+    ~RandomHost() override {
+        std::error_code ec;
+        std::filesystem::remove_all(folder_, ec);
+    }
+    RandomHost(const RandomHost&) = delete;
+    RandomHost& operator=(const RandomHost&) = delete;
 
     // One random step; false with a description in `failure` when an invariant broke.
     bool step(std::string& failure) {
         const int roll = pick(100);
-        if (roll < 35) {
+        if (roll < 30) {
             deliverReply();
-        } else if (roll < 45) {
+        } else if (roll < 40) {
             clickRunButton();
-        } else if (roll < 70) {
+        } else if (roll < 58) {
             editChannelSheet();
-        } else if (roll < 78) {
+        } else if (roll < 64) {
             editTriggerOrSampling();
+        } else if (roll < 76) {
+            displayAction();
+        } else if (roll < 78) {
+            fileAction();
         } else if (roll < 84) {
             changeLine();
         } else if (roll < 88) {
@@ -193,25 +211,24 @@ class RandomHost : public GraphHostSink {
         GraphSurface& s = control_.surface();
         // A confirmation answered OK or Cancel.
         library_.boxes().answerNext(pick(2) == 0 ? 1 : 2);
-        switch (pick(3)) {
-            case 0:
-                note("click Start");
-                s.cmdStart.click();
-                break;
-            case 1:
-                note("click Stop");
-                s.cmdStop.click();
-                break;
-            default:
-                note("click Clear");
-                s.cmdClear.click();
-                break;
+        // Start most often (half the clicks): a run that samples reaches the most code.
+        const int button = pick(6);
+        if (button < 3) {
+            note("click Start");
+            s.cmdStart.click();
+        } else if (button < 5) {
+            note("click Stop");
+            s.cmdStop.click();
+        } else {
+            note("click Clear");
+            s.cmdClear.click();
         }
     }
 
     void editChannelSheet() {
         ui::SpreadSheet& sheet = control_.surface().sprChannel;
-        const int ch = 1 + pick(kChannelCount);
+        // Low channels more often: analog channels are set in order from CH1.
+        const int ch = 1 + std::min(pick(kChannelCount), pick(kChannelCount));
         const int row = pick(3) == 0 ? kRowStation : kRowName;
         const auto& items = sheet.listItems(ch, row);
         if (items.empty()) return;
@@ -245,6 +262,121 @@ class RandomHost : public GraphHostSink {
             sheet.pressKey(ui::kKeyEnter);
         }
         if (pick(2) == 0) sheet.leaveSheet();
+    }
+
+    // What a user does on the operation panel and the chart: scales, scrolling, cursors,
+    // history selection, overlay and comments, and the host's colour schemes.
+    void displayAction() {
+        GraphSurface& s = control_.surface();
+        switch (pick(12)) {
+            case 0: {
+                static const char* scales[] = {"10", "0.5", "abc", "-3", "1e9", "", "200", "7,5"};
+                const std::string text = scales[pick(8)];
+                note("vertical scale '" + text + "'");
+                s.cboVertScale.enter(text);
+                break;
+            }
+            case 1: {
+                static const char* spans[] = {"100", "50", "0", "x", "100000", "2.5", "-1"};
+                const std::string text = spans[pick(7)];
+                note("horizontal scale '" + text + "'");
+                s.cboHorzScale.enter(text);
+                break;
+            }
+            case 2:
+                note("zero position up/down");
+                if (pick(2) == 0)
+                    s.updZero.clickUp();
+                else
+                    s.updZero.clickDown();
+                break;
+            case 3: {
+                const int to = pick(2000) - 100;
+                note("scroll to " + std::to_string(to));
+                if (pick(3) == 0)
+                    s.hsbGraph.pageRight();
+                else
+                    s.hsbGraph.dragTo(to);
+                break;
+            }
+            case 4:
+                note("cursor box");
+                s.chkCursor.click();
+                break;
+            case 5:
+                note("cursor option");
+                s.optCursor[pick(2)].click();
+                break;
+            case 6: {
+                // A drag on the chart, in twips, with the left button and now and then Shift.
+                const float x0 = static_cast<float>(pick(12000));
+                const float y0 = static_cast<float>(pick(6000));
+                const auto shift = static_cast<int16_t>(pick(3) == 0 ? 1 : 0);
+                note("chart drag from " + std::to_string(x0));
+                chart::ChartRoot& chart = control_.chartRoot();
+                chart.MouseDown.raise(int16_t{1}, shift, x0, y0);
+                for (int i = 0; i < 3; ++i)
+                    chart.MouseMove.raise(int16_t{1}, shift, x0 + static_cast<float>(pick(3000)),
+                                          y0 + static_cast<float>(pick(900)));
+                chart.MouseUp.raise(int16_t{1}, shift, x0, y0);
+                break;
+            }
+            case 7:
+                note("history option");
+                s.optHistory[pick(kHistoryButtons)].click();
+                break;
+            case 8:
+                note("overwrite box");
+                s.chkOverWrite[pick(kHistoryButtons)].click();
+                break;
+            case 9: {
+                static const char* comments[] = {"run 1", "a,b\"c", "\xe3\x81\x82\xe3\x81\x84"};
+                const std::string text = comments[pick(3)];
+                note("comment '" + text + "'");
+                s.txtComment.focus();
+                s.txtComment.type(pick(4) == 0 ? std::string(140, 'y') : text);
+                s.txtComment.leave();
+                break;
+            }
+            case 10:
+                note("operation tab");
+                s.tbsGraphOp.select(1 + pick(3));
+                break;
+            default: {
+                const int32_t mode = pick(3);
+                note("SetGraphColor(" + std::to_string(mode) + ")");
+                control_.SetGraphColor(mode);
+                break;
+            }
+        }
+    }
+
+    // File members on files in the scratch folder: what the host's menus do.
+    void fileAction() {
+        const std::string graph = (folder_ / "g.gp3").string();
+        const std::string project = (folder_ / "p.ztp").string();
+        library_.boxes().answerNext(pick(2) == 0 ? 1 : 2);
+        SYS_INFO sys = library_.sim().link().sysInfo();
+        VERSION_INFO version;
+        PROGRAM_VERSION program;
+        switch (pick(4)) {
+            case 0:
+                note("ExportFile");
+                control_.ExportFile(graph);
+                break;
+            case 1:
+                note("ImportFile");
+                control_.ImportFile(graph, sys);
+                break;
+            case 2:
+                note("SaveKivFile");
+                control_.SaveKivFile(project, version);
+                break;
+            default:
+                note("LoadKivFile");
+                control_.LoadKivFile(project, version, program);
+                break;
+        }
     }
 
     void changeLine() {
@@ -317,6 +449,7 @@ class RandomHost : public GraphHostSink {
     }
 
     std::mt19937_64 rng_;
+    std::filesystem::path folder_;
     sim::SimCommonLibrary library_;
     ztGraphControl control_{library_};
     std::deque<std::string> log_;
