@@ -63,7 +63,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
     for (const double v : {number.value_or(0.0), raw}) {
         if (!std::isfinite(v)) continue;
         const std::string shown = text::doubleToText(v, locale);
-        check(text::isNumeric(shown, locale));
+        // Fifteen digits round the largest doubles up past the maximum ("1.79769313486232E+308"),
+        // which then no longer reads as a number, as on the host platform.
+        if (std::fabs(v) < 1.797693134862315e308) check(text::isNumeric(shown, locale));
         if (std::fabs(v) <= 3.4028234663852886e38) {
             check(!text::singleToText(static_cast<float>(v), locale).empty());
         }

@@ -35,6 +35,9 @@ INSTANTIATE_TEST_SUITE_P(
                     NumericCase{"1E+2", true}, NumericCase{"1e+", false},
                     NumericCase{"1e2.5", false}, NumericCase{"1d2", false},
                     NumericCase{"1e400", false}, NumericCase{"1e-400", true},  // exponent
+                    // The largest double's own 15-digit text lies past the maximum.
+                    NumericCase{"1.79769313486232E+308", false},
+                    NumericCase{"1.79769313486231E+308", true},
                     NumericCase{"&hff", true}, NumericCase{"&O17", true}, NumericCase{"&H", false},
                     NumericCase{"0x10", false}, NumericCase{"&O8", false},
                     NumericCase{"&H1FFFFFFFF", false},  // hexadecimal and octal
