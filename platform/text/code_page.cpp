@@ -135,6 +135,26 @@ std::string convert(iconv_t cd, std::string_view input, OnStop onStop) {
     return out;
 }
 
+// The Windows ANSI code pages (and UTF-8): each keeps the bytes 0x00-0x7F as ASCII.
+bool keepsAscii(int codePage) {
+    switch (codePage) {
+        case 874:
+        case 932:
+        case 936:
+        case 949:
+        case 950:
+        case 65001:
+            return true;
+        default:
+            return codePage >= 1250 && codePage <= 1258;
+    }
+}
+
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 }  // namespace
 
 AnsiCodec::AnsiCodec(int codePage)
@@ -149,6 +169,7 @@ AnsiCodec::AnsiCodec(int codePage)
 }
 
 std::string AnsiCodec::toAnsi(std::string_view utf8) {
+    if (keepsAscii(codePage_) && isAscii(utf8)) return std::string(utf8);
     std::string clean = sanitizeUtf8(utf8);
     if (!toAnsi_.valid()) return clean;
     const bool is1252 = codePage_ == 1252;
@@ -195,6 +216,7 @@ std::string AnsiCodec::toAnsi(std::string_view utf8) {
 }
 
 std::string AnsiCodec::fromAnsi(std::string_view bytes) {
+    if (keepsAscii(codePage_) && isAscii(bytes)) return std::string(bytes);
     if (!fromAnsi_.valid()) return sanitizeUtf8(bytes);
     const bool is1252 = codePage_ == 1252;
     const bool is932 = codePage_ == 932;
@@ -225,26 +247,6 @@ std::string AnsiCodec::fromAnsi(std::string_view bytes) {
 
 namespace {
 
-// The Windows ANSI code pages (and UTF-8): each keeps the bytes 0x00-0x7F as ASCII.
-bool keepsAscii(int codePage) {
-    switch (codePage) {
-        case 874:
-        case 932:
-        case 936:
-        case 949:
-        case 950:
-        case 65001:
-            return true;
-        default:
-            return codePage >= 1250 && codePage <= 1258;
-    }
-}
-
-bool isAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
 // Opening a converter costs more than most conversions (section and key names, numbers), so
 // each thread keeps the few it used; a converter starts every conversion from its initial state.
 AnsiCodec& cachedCodec(int codePage) {
@@ -258,12 +260,10 @@ AnsiCodec& cachedCodec(int codePage) {
 }  // namespace
 
 std::string toAnsi(std::string_view utf8, int codePage) {
-    if (keepsAscii(codePage) && isAscii(utf8)) return std::string(utf8);
     return cachedCodec(codePage).toAnsi(utf8);
 }
 
 std::string fromAnsi(std::string_view bytes, int codePage) {
-    if (keepsAscii(codePage) && isAscii(bytes)) return std::string(bytes);
     return cachedCodec(codePage).fromAnsi(bytes);
 }
 
