@@ -10,6 +10,16 @@ seconds=${1:-20}
 
 build=$(pwd)/build-fuzz
 src=$(pwd)
+
+# Clang with its libFuzzer runtime, installed when missing (as root).
+for p in clang libclang-rt-dev; do
+    if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
+        [ "$(id -u)" -eq 0 ] || { echo "Run as root to install $p." >&2; exit 1; }
+        apt-get update -qq
+        DEBIAN_FRONTEND=noninteractive apt-get install -y -qq clang libclang-rt-dev >/dev/null
+        break
+    fi
+done
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
     -DZTGRAPH_FUZZ=ON -DZTGRAPH_WERROR=ON -DZTGRAPH_BUILD_TESTS=OFF -DZTGRAPH_BUILD_BENCH=OFF \
     -DZTGRAPH_BUILD_TOOLS=OFF -DZTGRAPH_INSTALL=OFF >/dev/null
