@@ -65,6 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
         std::ofstream out(s.file, std::ios::binary | std::ios::trunc);
         out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
     }
+    s.library.boxes().clear();  // the session keeps no record of earlier inputs
     zt::SYS_INFO sys;
     (void)s.control->ImportFile(s.file, sys);
     checkState(*s.control);

@@ -205,6 +205,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
                    {{zt::sim::kProjectBlockName, zt::sim::kFirstBlockPosition}})
             << bytes;
     }
+    s.library.boxes().clear();  // the session keeps no record of earlier inputs
     zt::VERSION_INFO version;
     zt::PROGRAM_VERSION program;
     program.lngMajor = wide3 ? 5 : 6;
