@@ -319,20 +319,12 @@ void storeField(SampleRecord& r, int field, std::string_view v) {
 // blanks, it is a plain signed decimal integer of at most 18 digits that fits; anything else
 // is skipped. The same rule as readField, in one pass over the characters. Returns the field's
 // end, or null for a field in double quotes, which may hold commas.
-template <typename T>
-const char* scanField(const char* p, const char* end, const char* limit, T& target) {
-    while (p != end && isBlank(*p))
-        ++p;
-    if (p != end && *p == '"') return nullptr;  // quoted: the line needs splitFields
-    // The sign without a branch: random data has either sign half the time.
-    const bool negative = p != end && *p == '-';
-    p += static_cast<int>(p != end && (*p == '-' || *p == '+'));
-    const char* const digits = p;
-    uint64_t v = 0;
-    bool moreDigits = true;
+// Reads the run of decimal digits at `p` (not past `end`) into `v`; returns the run's end.
+// Eight characters are looked at in one go (they may lie past `end`, never past `limit`): the
+// run is found and valued with a few multiplies instead of one unpredictable branch per digit.
+const char* readDigits(const char* p, const char* end, const char* limit, uint64_t& v) {
+    v = 0;
     if (std::endian::native == std::endian::little && limit - p >= 8) {
-        // The first eight characters at once: the run of digits found and valued with a few
-        // multiplies instead of one unpredictable branch per digit.
         uint64_t chunk = 0;
         std::memcpy(&chunk, p, 8);
         const uint64_t values = chunk ^ 0x3030303030303030u;  // a digit becomes 0 to 9
@@ -348,12 +340,41 @@ const char* scanField(const char* p, const char* end, const char* limit, T& targ
             v = (d * 10000 + (d >> 32)) & 0xFFFFFFFFu;
             p += run;
         }
-        moreDigits = run == 8;
+        if (run < 8) return p;
     }
-    while (moreDigits && p != end && static_cast<unsigned char>(*p - '0') < 10) {
+    while (p != end && static_cast<unsigned char>(*p - '0') < 10) {
         v = v * 10 + static_cast<unsigned>(*p - '0');
         ++p;
     }
+    return p;
+}
+
+// Stores a signed value of `count` digits in `target` when it has 1 to 18 digits and fits.
+template <typename T>
+bool storeDigits(bool negative, uint64_t v, std::size_t count, T& target) {
+    if (count == 0 || count > 18) return false;
+    const int64_t value = negative ? -static_cast<int64_t>(v) : static_cast<int64_t>(v);
+    if (value < std::numeric_limits<T>::min() || value > std::numeric_limits<T>::max())
+        return false;
+    target = static_cast<T>(value);
+    return true;
+}
+
+// Reads the field at `p` (up to the next comma or `end`) into `target` when, without its
+// blanks, it is a plain signed decimal integer of at most 18 digits that fits; anything else
+// is skipped. The same rule as readField, in one pass over the characters. Returns the field's
+// end, or null for a field in double quotes, which may hold commas.
+template <typename T>
+const char* scanField(const char* p, const char* end, const char* limit, T& target) {
+    while (p != end && isBlank(*p))
+        ++p;
+    if (p != end && *p == '"') return nullptr;  // quoted: the line needs splitFields
+    // The sign without a branch: random data has either sign half the time.
+    const bool negative = p != end && *p == '-';
+    p += static_cast<int>(p != end && (*p == '-' || *p == '+'));
+    const char* const digits = p;
+    uint64_t v = 0;
+    p = readDigits(p, end, limit, v);
     const auto count = static_cast<std::size_t>(p - digits);
     while (p != end && isBlank(*p))
         ++p;
@@ -362,10 +383,41 @@ const char* scanField(const char* p, const char* end, const char* limit, T& targ
         p = static_cast<const char*>(std::memchr(p, ',', static_cast<std::size_t>(end - p)));
         return p != nullptr ? p : end;
     }
-    if (count == 0 || count > 18) return p;
-    const int64_t value = negative ? -static_cast<int64_t>(v) : static_cast<int64_t>(v);
-    if (value >= std::numeric_limits<T>::min() && value <= std::numeric_limits<T>::max())
-        target = static_cast<T>(value);
+    storeDigits(negative, v, count, target);
+    return p;
+}
+
+// The usual line of a table, one record of seven plain numbers ended by LF, CR LF or the end of
+// the text, read at `p` into `r` without looking for the line's end first. Returns where the
+// next line starts, or null (nothing stored) for any other line, which the line-by-line
+// reading then takes.
+const char* scanRecordLine(const char* p, const char* limit, SampleRecord& r) {
+    SampleRecord read;
+    bool ok = true;
+    const auto next = [&](auto& target, bool last) {
+        if (!ok) return;
+        const bool negative = p != limit && *p == '-';
+        p += static_cast<int>(negative);
+        const char* const digits = p;
+        uint64_t v = 0;
+        p = readDigits(p, limit, limit, v);
+        ok = storeDigits(negative, v, static_cast<std::size_t>(p - digits), target);
+        if (!ok) return;
+        if (!last) {
+            ok = p != limit && *p == ',';
+            ++p;
+            return;
+        }
+        if (p != limit && *p == '\r') ++p;
+        if (p != limit) ok = *p++ == '\n';
+    };
+    next(read.lngDiffTime, false);
+    next(read.intFaultData, false);
+    next(read.intDigitalData, false);
+    for (std::size_t i = 0; i < read.lngAnalogData.size(); ++i)
+        next(read.lngAnalogData[i], i + 1 == read.lngAnalogData.size());
+    if (!ok) return nullptr;
+    r = read;
     return p;
 }
 
@@ -383,26 +435,6 @@ const char* scanRecordField(const char* p, const char* end, const char* limit, S
         default:
             return scanField(p, end, limit, r.lngAnalogData[static_cast<std::size_t>(field - 3)]);
     }
-}
-
-// The seven fields of a line that holds exactly one record, each followed by a comma but the
-// last, into `r`; returns `end` when the line was such a line (nothing is stored otherwise).
-const char* scanWholeRecord(const char* p, const char* end, const char* limit, SampleRecord& r) {
-    SampleRecord read = r;
-    const auto next = [&](auto& target, bool last) {
-        if (p == nullptr) return;
-        p = scanField(p, end, limit, target);
-        if (p == nullptr || last) return;
-        p = p != end && *p == ',' ? p + 1 : nullptr;
-    };
-    next(read.lngDiffTime, false);
-    next(read.intFaultData, false);
-    next(read.intDigitalData, false);
-    for (std::size_t i = 0; i < read.lngAnalogData.size(); ++i)
-        next(read.lngAnalogData[i], i + 1 == read.lngAnalogData.size());
-    if (p != end) return nullptr;
-    r = read;
-    return end;
 }
 
 // Sequential reader over the file's lines.
@@ -424,6 +456,12 @@ class LineCursor {
         peek();
         pos_ = end_;
         if (pos_ < text_.size()) ++pos_;
+        end_ = kUnknown;
+    }
+    // Where the current line starts; a line start to go on from.
+    std::size_t position() const { return pos_; }
+    void seek(std::size_t pos) {
+        pos_ = pos;
         end_ = kUnknown;
     }
 
@@ -470,6 +508,15 @@ void readSampleTablesFromText(GraphState& state, std::string_view text) {
         int field = 0;
         std::size_t index = 0;
         while (!lines.atEnd() && index < samples.size()) {
+            if (field == 0) {
+                const char* after =
+                    scanRecordLine(text.data() + lines.position(), limit, samples[index]);
+                if (after != nullptr) {
+                    lines.seek(static_cast<std::size_t>(after - text.data()));
+                    ++index;
+                    continue;
+                }
+            }
             const std::string_view line = trimView(lines.peek());
             // A table ends early at the next section.
             if (!line.empty() && line.front() == '[') break;
@@ -481,13 +528,6 @@ void readSampleTablesFromText(GraphState& state, std::string_view text) {
             const std::size_t lineIndex = index;
             const char* p = line.data();
             const char* const end = p + line.size();
-            if (field == 0) {
-                // The usual line: one whole record, its seven fields in a row.
-                if (scanWholeRecord(p, end, limit, samples[index]) == end) {
-                    ++index;
-                    continue;
-                }
-            }
             while (index < samples.size()) {
                 p = scanRecordField(p, end, limit, samples[index], field);
                 if (p == nullptr) break;
