@@ -488,8 +488,11 @@ void ControlView::place() {
 void ControlView::showColors() {
     QPalette palette = widget_->palette();
     const QPalette base = widget_->parentWidget() ? widget_->parentWidget()->palette() : palette;
-    palette.setColor(widget_->backgroundRole(), toQColor(model_.BackColor, base));
-    palette.setColor(widget_->foregroundRole(), toQColor(model_.ForeColor, base));
+    // A disabled control keeps the style's greyed look.
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, widget_->backgroundRole(), toQColor(model_.BackColor, base));
+        palette.setColor(group, widget_->foregroundRole(), toQColor(model_.ForeColor, base));
+    }
     widget_->setPalette(palette);
 }
 

@@ -66,6 +66,22 @@ int screenshot(zt::view::MainWindow& window, const Options& o) {
         s.tbsGraphOp.click(2);
         if (s.chkCursor.value() != zt::ui::kChecked) s.chkCursor.click();
     });
+    // Cursor A to a third of the graph and B to two thirds, dragged with the mouse.
+    const zt::chart::Grid& grid = *window.control().chartRefs().grid;
+    zt::chart::ChartRoot& root = window.control().chartRoot();
+    const auto drag = [&](double from, double to) {
+        const auto x = [&](double f) {
+            return static_cast<float>(grid.Left + f * (grid.Right - grid.Left));
+        };
+        const auto y = static_cast<float>((grid.Top + grid.Bottom) / 2.0);
+        window.surface().act([&] {
+            root.MouseDown.raise(1, 0, x(from), y);
+            root.MouseMove.raise(1, 0, x(to), y);
+            root.MouseUp.raise(1, 0, x(to), y);
+        });
+    };
+    drag(1.0, 0.66);
+    drag(0.0, 0.33);
     QApplication::processEvents();
     if (!window.grab().save(QString::fromStdString(*o.screenshot), "PNG")) {
         std::fprintf(stderr, "ztgraph-view: cannot write %s\n", o.screenshot->c_str());

@@ -75,6 +75,9 @@ MainWindow::MainWindow() {
 MainWindow::~MainWindow() {
     replies_.stop();
     control_->advise(nullptr);
+    // The widgets go first: they observe the control.
+    delete takeCentralWidget();
+    surface_ = nullptr;
 }
 
 void MainWindow::buildMenus() {

@@ -3,8 +3,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
+#include <QTimer>
 
 #include <set>
 #include <utility>
@@ -43,6 +46,24 @@ Qt::Alignment alignmentOf(const ui::SpreadSheet& sheet, int col, int row) {
                                           : Qt::AlignVCenter);
 }
 
+class SheetView;
+
+// Cell editors: a drop-down list for list cells, a line for text and number cells. What a
+// person enters goes to the sheet's user actions, never into the table directly; the table
+// then shows what the sheet made of it.
+class CellDelegate : public QStyledItemDelegate {
+  public:
+    CellDelegate(SheetView& view, QObject* parent) : QStyledItemDelegate(parent), view_(view) {}
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override;
+
+  private:
+    SheetView& view_;
+};
+
 class SheetView : public ControlView {
   public:
     SheetView(ui::SpreadSheet& m, QWidget* parent, ViewHost& host)
@@ -55,24 +76,14 @@ class SheetView : public ControlView {
         table()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
         QObject::connect(table(), &QTableWidget::cellClicked, table(), [this](int row, int col) {
             act([this, row, col] { m_.clickCell(col + 1, row + 1); });
+            // A click on a list cell a person can pick from drops its list down.
+            if (pickable(col + 1, row + 1)) table()->editItem(table()->item(row, col));
         });
         QObject::connect(table()->horizontalHeader(), &QHeaderView::sectionClicked, table(),
                          [this](int col) { act([this, col] { m_.clickCell(col + 1, 0); }); });
         QObject::connect(table()->verticalHeader(), &QHeaderView::sectionClicked, table(),
                          [this](int row) { act([this, row] { m_.clickCell(0, row + 1); }); });
-        // A person's edit of a cell: typed into the sheet and committed with Enter.
-        QObject::connect(table(), &QTableWidget::itemChanged, table(),
-                         [this](QTableWidgetItem* it) {
-                             if (refreshing_) return;
-                             const int col = it->column() + 1;
-                             const int row = it->row() + 1;
-                             const std::string typed = it->text().toStdString();
-                             act([&] {
-                                 if (m_.typeIntoCell(col, row, typed)) m_.pressKey(ui::kKeyEnter);
-                             });
-                             dirty_.insert({col, row});
-                             flush();
-                         });
+        table()->setItemDelegate(new CellDelegate(*this, table()));
         // The focus going elsewhere than the table or its editors ends editing on the sheet.
         QObject::connect(qApp, &QApplication::focusChanged, table(),
                          [this](QWidget* from, QWidget* to) {
@@ -108,6 +119,27 @@ class SheetView : public ControlView {
         host().scheduleFlush();
     }
     void showColors() override {}
+
+  public:
+    bool pickable(int col, int row) const {
+        return col <= m_.MaxCols() && row <= m_.MaxRows() && m_.editableByPerson(col, row) &&
+               m_.cellType(col, row) == ui::CellType::ComboBox;
+    }
+    const ui::SpreadSheet& sheet() const { return m_; }
+    // A person picked item `index` of the list of (col, row).
+    void pick(int col, int row, int index) {
+        act([&] { m_.chooseListItem(col, row, index); });
+        dirty_.insert({col, row});
+        flush();
+    }
+    // A person typed `text` into (col, row) and pressed Enter.
+    void type(int col, int row, const std::string& text) {
+        act([&] {
+            if (m_.typeIntoCell(col, row, text)) m_.pressKey(ui::kKeyEnter);
+        });
+        dirty_.insert({col, row});
+        flush();
+    }
 
   private:
     QTableWidget* table() const { return static_cast<QTableWidget*>(widget()); }
@@ -168,47 +200,9 @@ class SheetView : public ControlView {
         const ui::CellType type = m_.cellType(col, row);
         const bool editable = m_.editableByPerson(col, row);
         Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-        if (editable && type != ui::CellType::ComboBox) flags |= Qt::ItemIsEditable;
+        if (editable && type != ui::CellType::StaticText) flags |= Qt::ItemIsEditable;
         it->setFlags(flags);
-        showListCell(col, row, editable && type == ui::CellType::ComboBox);
         refreshing_ = was;
-    }
-
-    // A list cell a person can pick from shows a drop-down list; other cells show text only.
-    void showListCell(int col, int row, bool pickable) {
-        auto* combo = qobject_cast<QComboBox*>(table()->cellWidget(row - 1, col - 1));
-        if (!pickable) {
-            if (combo) table()->removeCellWidget(row - 1, col - 1);
-            return;
-        }
-        if (!combo) {
-            combo = new QComboBox;
-            combo->setObjectName(QStringLiteral("cell_%1_%2").arg(col).arg(row));
-            QObject::connect(combo, &QComboBox::activated, combo, [this, col, row](int index) {
-                act([this, col, row, index] { m_.chooseListItem(col, row, index); });
-                dirty_.insert({col, row});
-                flush();
-            });
-            table()->setCellWidget(row - 1, col - 1, combo);
-        }
-        const QSignalBlocker quiet(combo);
-        const std::vector<std::string>& items = m_.listItems(col, row);
-        bool same = combo->count() == static_cast<int>(items.size());
-        for (int i = 0; same && i < combo->count(); ++i)
-            same = combo->itemText(i) == qs(items[static_cast<size_t>(i)]);
-        if (!same) {
-            combo->clear();
-            for (const std::string& item : items)
-                combo->addItem(qs(item));
-        }
-        combo->setCurrentIndex(m_.selectedIndex(col, row));
-        if (m_.selectedIndex(col, row) < 0) {
-            combo->setPlaceholderText(qs(m_.text(col, row)));
-        }
-        QPalette pal = combo->palette();
-        pal.setColor(QPalette::Button, toQColor(m_.backColor(col, row), table()->palette()));
-        pal.setColor(QPalette::Base, toQColor(m_.backColor(col, row), table()->palette()));
-        combo->setPalette(pal);
     }
 
     ui::SpreadSheet& m_;
@@ -217,6 +211,46 @@ class SheetView : public ControlView {
     bool gridDirty_ = true;
     bool refreshing_ = false;
 };
+
+QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const {
+    const int col = index.column() + 1;
+    const int row = index.row() + 1;
+    if (!view_.pickable(col, row)) return QStyledItemDelegate::createEditor(parent, option, index);
+    auto* combo = new QComboBox(parent);
+    combo->setObjectName(QStringLiteral("cell_%1_%2").arg(col).arg(row));
+    for (const std::string& item : view_.sheet().listItems(col, row))
+        combo->addItem(qs(item));
+    combo->setCurrentIndex(view_.sheet().selectedIndex(col, row));
+    auto* self = const_cast<CellDelegate*>(this);
+    QObject::connect(combo, &QComboBox::activated, combo, [self, combo](int picked) {
+        // Picking closes the list and hands the pick to the sheet (setModelData).
+        combo->setProperty("picked", picked);
+        emit self->commitData(combo);
+        emit self->closeEditor(combo);
+    });
+    QTimer::singleShot(0, combo, [combo] { combo->showPopup(); });
+    return combo;
+}
+
+void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    if (qobject_cast<QComboBox*>(editor)) return;  // set up with the list
+    auto* line = qobject_cast<QLineEdit*>(editor);
+    if (line) line->setText(qs(view_.sheet().text(index.column() + 1, index.row() + 1)));
+}
+
+void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel*,
+                                const QModelIndex& index) const {
+    const int col = index.column() + 1;
+    const int row = index.row() + 1;
+    if (auto* combo = qobject_cast<QComboBox*>(editor)) {
+        const QVariant picked = combo->property("picked");
+        if (picked.isValid()) view_.pick(col, row, picked.toInt());
+        return;
+    }
+    if (auto* line = qobject_cast<QLineEdit*>(editor))
+        view_.type(col, row, line->text().toStdString());
+}
 
 }  // namespace
 

@@ -27,6 +27,15 @@ bool isBackdrop(const ui::ControlBase& c) {
            dynamic_cast<const ui::TabStrip*>(&c) != nullptr || isPanel(c);
 }
 
+// The width (or height) of all of a sheet's columns (rows) with the header and the border.
+float sheetExtent(const ui::SpreadSheet& sheet, bool across) {
+    float sum = 420;
+    const int n = across ? sheet.MaxCols() : sheet.MaxRows();
+    for (int i = 0; i <= n; ++i)
+        sum += across ? sheet.ColWidth(i) : sheet.RowHeight(i);
+    return sum;
+}
+
 }  // namespace
 
 SurfaceView::SurfaceView(ztGraphControl& control, QWidget* parent)
@@ -105,7 +114,14 @@ QRect SurfaceView::placeOf(const ui::ControlBase& c) const {
         const DesignRect& r = place->rect;
         return {toPixels(r.left), toPixels(r.top), toPixels(r.width), toPixels(r.height)};
     }
-    return {toPixels(c.Left), toPixels(c.Top), toPixels(c.Width), toPixels(c.Height)};
+    int w = toPixels(c.Width);
+    int h = toPixels(c.Height);
+    if (const auto* sheet = dynamic_cast<const ui::SpreadSheet*>(&c)) {
+        // A sheet the component never sized shows all its cells.
+        if (w == 0) w = toPixels(sheetExtent(*sheet, true));
+        if (h == 0) h = toPixels(sheetExtent(*sheet, false));
+    }
+    return {toPixels(c.Left), toPixels(c.Top), w, h};
 }
 
 void SurfaceView::placePanels() {

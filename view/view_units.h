@@ -26,15 +26,15 @@ inline QColor toQColor(int32_t color, const QPalette& palette) {
     if (bits & 0x80000000u) {
         switch (bits & 0xFFu) {
             case 5:  // window
-                return palette.color(QPalette::Base);
+                return palette.color(QPalette::Active, QPalette::Base);
             case 8:  // window text
-                return palette.color(QPalette::Text);
+                return palette.color(QPalette::Active, QPalette::Text);
             case 15:  // button face
-                return palette.color(QPalette::Button);
+                return palette.color(QPalette::Active, QPalette::Button);
             case 18:  // button text
-                return palette.color(QPalette::ButtonText);
+                return palette.color(QPalette::Active, QPalette::ButtonText);
             default:
-                return palette.color(QPalette::Window);
+                return palette.color(QPalette::Active, QPalette::Window);
         }
     }
     return QColor(static_cast<int>(bits & 0xFF), static_cast<int>((bits >> 8) & 0xFF),
