@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -89,6 +90,12 @@ class ViewWindowTest : public QObject {
     void cleanup() { window.reset(); }
 
     void startButtonCapturesAndTheChartShowsTheTraces() {
+        // Start follows the model: disabled until a capture is set up on the sheets.
+        window->goOnline(false);
+        auto* start = find<QPushButton>(*window, "cmdStart");
+        QVERIFY(start && !start->isEnabled());
+        QCOMPARE(start->text().toStdString(), window->control().surface().cmdStart.Caption.get());
+        window->goOnline(true);
         const int32_t ch1 = window->control().chartRoot().PlotDataCollection.at(0).LinePen.color;
         const int before = pixelsOf(window->surface().chart()->grab().toImage(), ch1);
         capture();
@@ -208,6 +215,28 @@ class ViewWindowTest : public QObject {
         QTest::mouseClick(clear, Qt::LeftButton);
         QVERIFY(!seen.isEmpty());
         QCOMPARE(window->control().runState(), OnlineReady);
+    }
+
+    void graphAndProjectFilesGoOutAndComeBack() {
+        capture();
+        const QByteArray tmp = qgetenv("ZT_TEST_TMP");
+        const QString dir = tmp.isEmpty() ? QDir::tempPath() : QString::fromUtf8(tmp);
+        QDir().mkpath(dir);
+        const std::string graph = (dir + "/view-window.gp3").toStdString();
+        const std::string project = (dir + "/view-window.ztp").toStdString();
+        QVERIFY(window->exportGraph(graph));
+        QVERIFY(window->saveProject(project));
+
+        MainWindow other;
+        other.show();
+        QVERIFY(other.importGraph(graph));
+        QCOMPARE(other.control().runState(), OnlineGraph);
+        QVERIFY(other.control().chartRoot().PlotDataCollection.at(0).pointCount() > 100);
+        MainWindow third;
+        third.show();
+        QVERIFY(third.loadProject(project));
+        QVERIFY(third.control().chartRoot().PlotDataCollection.at(0).pointCount() > 100);
+        QVERIFY(third.surface().chart()->picture() == window->surface().chart()->picture());
     }
 
     void sheetCellsTakeListPicksAndTypedNumbers() {
