@@ -2,6 +2,7 @@
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QFileDialog>
 #include <QLabel>
 #include <QMenuBar>
@@ -78,6 +79,21 @@ MainWindow::~MainWindow() {
     // The widgets go first: they observe the control.
     delete takeCentralWidget();
     surface_ = nullptr;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    int16_t cancel = 0;
+    surface_->act([&] { control_->QueryUnLoadU(cancel, 0); });
+    if (cancel != 0) {
+        event->ignore();
+        return;
+    }
+    replies_.stop();
+    surface_->act([&] {
+        if (host_->sampling()) control_->surface().cmdStop.click();
+        control_->Terminate();
+    });
+    event->accept();
 }
 
 void MainWindow::buildMenus() {

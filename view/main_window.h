@@ -58,6 +58,10 @@ class MainWindow : public QMainWindow {
     // Called after each reply has been handed to the component.
     std::function<void()> onReply;
 
+  protected:
+    // The host asks the control whether it may go, then ends its life (Terminate).
+    void closeEvent(QCloseEvent* event) override;
+
   private:
     void buildMenus();
     void deliverReply();

@@ -273,6 +273,13 @@ class ViewWindowTest : public QObject {
         QCOMPARE(window->control().state().sampSetting.dblSamplingTime, 30000.0);
     }
 
+    void closingTheWindowEndsTheControlsLife() {
+        window->setUpCapture(sim::CaptureScenario::Typical);
+        QVERIFY(window->close());
+        QVERIFY(window->control().terminated());
+        QVERIFY(!find<QPushButton>(*window, "cmdStart")->isEnabled());
+    }
+
     // Not a pass/fail check: the figures of a long capture, printed for the record.
     void replyToPictureTimesOfALongCapture() {
         window->setUpCapture(sim::CaptureScenario::HighSpeed);
