@@ -283,6 +283,15 @@ class ScrollView : public ControlView {
                 case QAbstractSlider::SliderPageStepSub:
                     act([this] { inverted() ? m_.pageRight() : m_.pageLeft(); });
                     break;
+                case QAbstractSlider::SliderMove: {
+                    // The wheel or keys moved the thumb (a drag ends in sliderReleased).
+                    auto* b = static_cast<QScrollBar*>(widget());
+                    if (b->isSliderDown()) return;
+                    const int to = inverted() ? m_.Min() + m_.Max() - b->sliderPosition()
+                                              : b->sliderPosition();
+                    act([this, to] { m_.dragTo(to); });
+                    break;
+                }
                 default:
                     return;
             }

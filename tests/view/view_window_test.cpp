@@ -273,6 +273,31 @@ class ViewWindowTest : public QObject {
         QCOMPARE(window->control().state().sampSetting.dblSamplingTime, 30000.0);
     }
 
+    void aCommunicationErrorFromTheLinkEndsTheRun() {
+        window->setUpCapture(sim::CaptureScenario::Typical);
+        window->replyTimer().stop();
+        window->setReplyInterval(1000000);
+        window->surface().act([&] { window->control().surface().cmdStart.click(); });
+        QCOMPARE(window->control().runState(), Sampling);
+        window->deliverAll(3);
+        window->injectCommError();
+        int boxes = 0;
+        QTimer answer;
+        QObject::connect(&answer, &QTimer::timeout, [&boxes] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                ++boxes;
+                box->button(QMessageBox::Ok)->click();
+            }
+        });
+        answer.start(10);
+        window->deliverAll(1);
+        answer.stop();
+        QVERIFY(!window->host().sampling());
+        QVERIFY(window->control().runState() != Sampling);
+        QCOMPARE(boxes, window->library().boxes.shown);
+        QVERIFY(boxes >= 1);
+    }
+
     void closingTheWindowEndsTheControlsLife() {
         window->setUpCapture(sim::CaptureScenario::Typical);
         QVERIFY(window->close());
