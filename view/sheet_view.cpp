@@ -12,6 +12,7 @@
 #include <set>
 #include <utility>
 
+#include "view/control_kinds.h"
 #include "view/view_units.h"
 
 namespace zt::view {
@@ -19,10 +20,6 @@ namespace zt::view {
 namespace {
 
 using ui::ControlProperty;
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 Qt::Alignment alignmentOf(const ui::SpreadSheet& sheet, int col, int row) {
     Qt::Alignment h = Qt::AlignLeft;
