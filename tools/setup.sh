@@ -12,7 +12,7 @@ fi
 build=${1:-build}
 [ $# -gt 0 ] && shift
 
-packages="cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev zlib1g-dev clang-format $wine"
+packages="cmake ninja-build g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev libcairo2-dev zlib1g-dev clang-format qt6-base-dev fonts-dejavu-core $wine"
 missing=""
 for p in $packages; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing="$missing $p"

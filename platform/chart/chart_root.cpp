@@ -96,6 +96,10 @@ ChartRoot::ChartRoot() {
     }
     Series& timeBase = PlotDataCollection.add(std::make_unique<Series>(
         std::string(kTimeBaseSeries), SeriesKind::Plot, timeBaseArea, timeBaseAxis));
+    for (Collection<Series>* series : {&PlotDataCollection, &PulseDataCollection}) {
+        for (int i = 0; i < series->count(); ++i)
+            series->at(i).reportChangesTo(&Changes);
+    }
     timeBase.LinePen.color = kGridColor;
     timeBase.Label.TextColor = kTextColor;
 

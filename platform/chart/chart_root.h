@@ -50,8 +50,15 @@ class ChartRoot {
     MouseEvent MouseMove;
     MouseEvent MouseUp;
 
-    // Asks for the chart to be drawn again. The model is drawn on demand, so this only counts.
-    void Redraw() { ++redraws_; }
+    // Told when the chart asks to be drawn again and when a series' points change.
+    ChangeSink Changes;
+
+    // Asks for the chart to be drawn again. The model is drawn on demand, so this counts and
+    // tells the listener of Changes.
+    void Redraw() {
+        ++redraws_;
+        Changes.changed();
+    }
     int redrawCount() const { return redraws_; }
 
   private:

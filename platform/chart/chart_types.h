@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 
 namespace zt::chart {
 
@@ -17,6 +19,19 @@ struct Pen {
     Color color = 0xFFFFFF;
     PenStyle style = PenStyle::Solid;
     int32_t width = 1;
+};
+
+// Where the chart's objects report that what they show changed: one optional listener (the
+// window drawing the chart). Reporting with nobody listening costs a test.
+class ChangeSink {
+  public:
+    void listen(std::function<void()> listener) { listener_ = std::move(listener); }
+    void changed() const {
+        if (listener_) listener_();
+    }
+
+  private:
+    std::function<void()> listener_;
 };
 
 // Error code of a lookup of a name a collection does not hold (invalid index).

@@ -31,6 +31,7 @@ void Series::adopt(int count, std::vector<double>&& values, std::vector<double>&
     }
     labels_.reset(count_);
     rewriteRevision_ = ++revision_;
+    if (sink_) sink_->changed();
 }
 
 void Series::setPointRange(int first, int last, const double* values, const double* times) {
@@ -49,6 +50,7 @@ void Series::setPointRange(int first, int last, const double* values, const doub
     }
     count_ = last;
     labels_.reset(count_);
+    if (sink_) sink_->changed();
 }
 
 void Series::setPointCount(int count) {
@@ -57,6 +59,7 @@ void Series::setPointCount(int count) {
     count_ = n;
     rewriteRevision_ = ++revision_;
     labels_.reset(count_);
+    if (sink_) sink_->changed();
 }
 
 std::optional<double> Series::valueAt(int index) const {

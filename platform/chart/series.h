@@ -44,6 +44,9 @@ class Series {
     Series(const Series&) = delete;
     Series& operator=(const Series&) = delete;
 
+    // Where changes of the points are reported (the chart's sink); nullptr: nowhere.
+    void reportChangesTo(const ChangeSink* sink) { sink_ = sink; }
+
     const std::string& name() const { return name_; }
     SeriesKind kind() const { return kind_; }
     const Area& area() const { return area_; }
@@ -113,6 +116,7 @@ class Series {
     uint64_t revision_ = 0;
     uint64_t rewriteRevision_ = 0;
     LabelSwitches labels_;
+    const ChangeSink* sink_ = nullptr;
 };
 
 }  // namespace zt::chart

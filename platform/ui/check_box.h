@@ -21,7 +21,7 @@ class CheckBox : public ControlBase {
     static constexpr std::string_view kKind = "CheckBox";
     using ControlBase::ControlBase;
 
-    std::string Caption;
+    Observed<std::string> Caption{*this, ControlProperty::Caption};
     Event<> Click;
 
     int value() const { return value_; }

@@ -28,6 +28,7 @@ void ComboBox::AddItem(std::string item, int index) {
     if (index < 0 || index > ListCount()) throwInvalidProcedureCall();
     items_.insert(items_.begin() + index, std::move(item));
     if (listIndex_ >= index) ++listIndex_;
+    notify(ControlProperty::List);
 }
 
 void ComboBox::RemoveItem(int index) {
@@ -39,12 +40,14 @@ void ComboBox::RemoveItem(int index) {
     } else if (listIndex_ > index) {
         --listIndex_;
     }
+    notify(ControlProperty::List);
 }
 
 void ComboBox::Clear() {
     items_.clear();
     listIndex_ = -1;
     edit_.assign({});
+    notify(ControlProperty::List);
 }
 
 std::string ComboBox::List(int index) const {
@@ -59,6 +62,7 @@ void ComboBox::setList(int index, std::string item) {
     items_[static_cast<size_t>(index)] = std::move(item);
     if (index == listIndex_ && style_ == ComboStyle::DropDownList)
         edit_.assign(items_[static_cast<size_t>(index)]);
+    notify(ControlProperty::List);
 }
 
 void ComboBox::setListIndex(int index) {
@@ -66,6 +70,7 @@ void ComboBox::setListIndex(int index) {
     if (index == listIndex_) return;
     listIndex_ = index;
     edit_.assign(index < 0 ? std::string() : items_[static_cast<size_t>(index)]);
+    notify(ControlProperty::Text);
     Click.raise();
 }
 
@@ -90,6 +95,7 @@ void ComboBox::setText(std::string text) {
     bool changed = text != edit_.text();
     edit_.assign(std::move(text));
     selectMatchingItem();
+    notify(ControlProperty::Text);
     if (changed) Change.raise();
 }
 
@@ -97,6 +103,7 @@ bool ComboBox::select(int index) {
     if (!usable() || index < 0 || index >= ListCount()) return false;
     listIndex_ = index;
     edit_.assign(items_[static_cast<size_t>(index)]);
+    notify(ControlProperty::Text);
     Click.raise();
     return true;
 }
@@ -106,6 +113,7 @@ bool ComboBox::key(int keyAscii) {
     if (keyAscii == 0 || style_ == ComboStyle::DropDownList) return true;
     if (edit_.applyKey(keyAscii, 0)) {
         selectMatchingItem();
+        notify(ControlProperty::Text);
         Change.raise();
     }
     return true;

@@ -14,7 +14,7 @@ class CommandButton : public ControlBase {
     static constexpr std::string_view kKind = "CommandButton";
     using ControlBase::ControlBase;
 
-    std::string Caption;
+    Observed<std::string> Caption{*this, ControlProperty::Caption};
     Event<> Click;
 
     // A person's click: raises Click only while the button is visible and enabled.

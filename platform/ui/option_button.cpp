@@ -37,15 +37,24 @@ OptionButton::~OptionButton() {
 void OptionButton::select() {
     if (group_) {
         for (OptionButton* other : group_->members_) {
-            if (other != this) other->value_ = false;
+            if (other != this && other->value_) {
+                other->value_ = false;
+                other->notify(ControlProperty::Value);
+            }
         }
     }
-    value_ = true;
+    if (!value_) {
+        value_ = true;
+        notify(ControlProperty::Value);
+    }
 }
 
 void OptionButton::setValue(bool value) {
     if (!value) {
-        value_ = false;
+        if (value_) {
+            value_ = false;
+            notify(ControlProperty::Value);
+        }
         return;
     }
     if (value_) return;

@@ -47,7 +47,7 @@ class OptionButton : public ControlBase {
     OptionButton(std::string name, int index, OptionGroup& group);
     ~OptionButton() override;
 
-    std::string Caption;
+    Observed<std::string> Caption{*this, ControlProperty::Caption};
     Event<> Click;
 
     bool value() const { return value_; }

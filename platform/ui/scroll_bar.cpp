@@ -25,18 +25,21 @@ int HScrollBar::clampToRange(int64_t v) const {
 void HScrollBar::pullIntoRange() {
     if (inRange(value_)) return;
     value_ = clampToRange(value_);
+    notify(ControlProperty::Value);
     Change.raise();
 }
 
 void HScrollBar::setMin(int min) {
     checkInt16(min);
     min_ = min;
+    notify(ControlProperty::Value);
     pullIntoRange();
 }
 
 void HScrollBar::setMax(int max) {
     checkInt16(max);
     max_ = max;
+    notify(ControlProperty::Value);
     pullIntoRange();
 }
 
@@ -44,6 +47,7 @@ void HScrollBar::setValue(int value) {
     if (!inRange(value)) throwInvalidPropertyValue();
     if (value == value_) return;
     value_ = value;
+    notify(ControlProperty::Value);
     Change.raise();
 }
 
@@ -54,6 +58,7 @@ bool HScrollBar::step(int amount, bool towardMax) {
     int next = clampToRange(static_cast<int64_t>(value_) + (up ? delta : -delta));
     if (next != value_) {
         value_ = next;
+        notify(ControlProperty::Value);
         Change.raise();
     }
     return true;
@@ -79,6 +84,7 @@ bool HScrollBar::drag(std::initializer_list<int> positions) {
         int next = clampToRange(p);
         if (next == value_) continue;
         value_ = next;
+        notify(ControlProperty::Value);
         Scroll.raise();
     }
     if (value_ != start) Change.raise();

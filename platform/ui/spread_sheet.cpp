@@ -151,15 +151,26 @@ void SpreadSheet::SetReDraw(bool on) {
         return;
     }
     ++resumeCount_;
-    if (dirty_) ++repaintCount_;
+    const bool repaint = dirty_;
     dirty_ = false;
+    if (repaint) {
+        ++repaintCount_;
+        notify(ControlProperty::Cells);
+    }
 }
 
-void SpreadSheet::changed() {
-    if (redraw_) {
-        ++repaintCount_;
-    } else {
+void SpreadSheet::changed(int col, int row) {
+    if (!redraw_) {
         dirty_ = true;
+        return;
+    }
+    ++repaintCount_;
+    if (ControlObserver* o = observer()) {
+        if (col >= 0) {
+            o->cellChanged(*this, col, row);
+        } else {
+            o->controlChanged(*this, ControlProperty::Cells);
+        }
     }
 }
 
@@ -197,7 +208,7 @@ const Cell& SpreadSheet::cellAt(int col, int row) const {
 Cell& SpreadSheet::cellFor(int col, int row) {
     requireCell(col, row);
     closeEditOn(col, row);
-    changed();
+    changed(col, row);
     auto [it, added] = cells_.try_emplace({col, row});
     if (added && (col == 0 || row == 0)) it->second.text = defaultHeaderText(col, row);
     return it->second;
@@ -256,7 +267,7 @@ void SpreadSheet::commitEdit(bool notify) {
     Cell& cell = it->second;
     if (cell.type == CellType::Number) storeNumberText(cell, cell.text);
     const bool differs = cell.text != e.oldText || cell.number != e.oldNumber;
-    changed();
+    changed(e.col, e.row);
     if (notify && differs) Change.raise(e.col, e.row);
 }
 
@@ -268,7 +279,7 @@ void SpreadSheet::cancelEdit() {
     if (it == cells_.end()) return;
     it->second.text = e.oldText;
     it->second.number = e.oldNumber;
-    changed();
+    changed(e.col, e.row);
 }
 
 void SpreadSheet::moveTo(int col, int row) {
@@ -529,7 +540,7 @@ bool SpreadSheet::typeIntoCell(int col, int row, const std::string& typed) {
         cell.text.size() > static_cast<size_t>(cell.maxLength)) {
         cell.text.resize(static_cast<size_t>(cell.maxLength));
     }
-    changed();
+    changed(col, row);
     return true;
 }
 

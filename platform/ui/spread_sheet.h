@@ -9,7 +9,9 @@
 // false.
 //
 // Events are raised only by user actions; nothing code does raises an event (as with the
-// hosted control, writing a cell or a selection by code notifies nobody).
+// hosted control, writing a cell or a selection by code notifies nobody). The sheet's observer
+// (the window showing it) is told of every cell written while drawing is on, and of the whole
+// grid once when drawing comes back on after changes.
 #pragma once
 
 #include <cstdint>
@@ -246,7 +248,8 @@ class SpreadSheet : public ControlBase {
     void cancelEdit();
     // A person moves to a data cell: an edit elsewhere is committed first.
     void moveTo(int col, int row);
-    void changed();
+    // Counts a repaint and tells the observer: the cell (col, row), or the whole grid for -1.
+    void changed(int col = -1, int row = -1);
     void dropOutside();
 
     int maxCols_;

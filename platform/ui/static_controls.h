@@ -21,7 +21,7 @@ class Label : public ControlBase {
         TabStop = false;
     }
 
-    std::string Caption;
+    Observed<std::string> Caption{*this, ControlProperty::Caption};
     int16_t Alignment = kAlignLeft;
 };
 
@@ -33,7 +33,7 @@ class Frame : public ControlBase {
         TabStop = false;
     }
 
-    std::string Caption;
+    Observed<std::string> Caption{*this, ControlProperty::Caption};
 };
 
 // A panel; the controls placed in it are ordinary controls of the surface.

@@ -21,6 +21,7 @@ Tab& TabStrip::TabCollection::Add(std::string caption, int index) {
     } else if (strip_.selected_ >= index) {
         ++strip_.selected_;
     }
+    strip_.notify(ControlProperty::List);
     return *it;
 }
 
@@ -32,11 +33,13 @@ void TabStrip::TabCollection::Remove(int index) {
     } else if (strip_.selected_ > index) {
         --strip_.selected_;
     }
+    strip_.notify(ControlProperty::List);
 }
 
 void TabStrip::TabCollection::Clear() {
     strip_.tabs_.clear();
     strip_.selected_ = 0;
+    strip_.notify(ControlProperty::List);
 }
 
 Tab& TabStrip::TabCollection::operator()(int index) {
@@ -51,12 +54,14 @@ void TabStrip::select(int index) {
     checked(index);
     if (index == selected_) return;
     selected_ = index;
+    notify(ControlProperty::Value);
     Click.raise();
 }
 
 bool TabStrip::click(int index) {
     if (!usable() || index < 1 || index > static_cast<int>(tabs_.size())) return false;
     selected_ = index;
+    notify(ControlProperty::Value);
     Click.raise();
     return true;
 }

@@ -11,19 +11,25 @@ TextBox::TextBox(std::string name, int index) : ControlBase(std::move(name), ind
 void TextBox::setText(std::string text) {
     bool changed = text != edit_.text();
     edit_.assign(std::move(text));
+    notify(ControlProperty::Text);
     if (changed) Change.raise();
 }
 
 void TextBox::setSelText(const std::string& text) {
     std::string before = edit_.text();
     edit_.replaceSelection(text);
-    if (edit_.text() != before) Change.raise();
+    if (edit_.text() == before) return;
+    notify(ControlProperty::Text);
+    Change.raise();
 }
 
 bool TextBox::key(int keyAscii) {
     KeyPress.raise(keyAscii);
     if (keyAscii == 0 || Locked) return !Locked;
-    if (edit_.applyKey(keyAscii, MaxLength)) Change.raise();
+    if (edit_.applyKey(keyAscii, MaxLength)) {
+        notify(ControlProperty::Text);
+        Change.raise();
+    }
     return true;
 }
 

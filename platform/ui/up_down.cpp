@@ -13,6 +13,7 @@ void UpDown::pullIntoRange() {
     int hi = std::max(min_, max_);
     if (value_ >= lo && value_ <= hi) return;
     value_ = std::clamp(value_, lo, hi);
+    notify(ControlProperty::Value);
     Change.raise();
 }
 
@@ -32,6 +33,7 @@ void UpDown::setValue(int value) {
     }
     if (value == value_) return;
     value_ = value;
+    notify(ControlProperty::Value);
     Change.raise();
 }
 
@@ -45,6 +47,7 @@ void UpDown::move(bool towardMax) {
     if (past) next = Wrap ? other : target;
     if (next == value_) return;
     value_ = static_cast<int>(next);
+    notify(ControlProperty::Value);
     Change.raise();
 }
 

@@ -1,4 +1,4 @@
-#include "cli/capture_setup.h"
+#include "sim/capture_setup.h"
 
 #include <array>
 #include <string>
@@ -6,7 +6,7 @@
 #include "config/sheet_rows.h"
 #include "core/setting_limits.h"
 
-namespace zt::cli {
+namespace zt::sim {
 
 namespace {
 
@@ -55,7 +55,7 @@ std::string_view scenarioName(CaptureScenario scenario) {
     return "typical";
 }
 
-void connectToLink(ztGraphControl& control, sim::SimCommonLibrary& library) {
+void connectToLink(ztGraphControl& control, SimCommonLibrary& library) {
     INIFILE_ITEM settings;
     settings.lngData[1] = kDemoBaudRate;
     control.SetIniFileItem(settings);
@@ -126,4 +126,4 @@ void configureCapture(ztGraphControl& control, CaptureScenario scenario) {
     s.tabSpread.select(1);
 }
 
-}  // namespace zt::cli
+}  // namespace zt::sim
