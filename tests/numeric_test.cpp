@@ -21,28 +21,25 @@ TEST_P(IsNumericTest, FollowsTheLocaleNumberGrammar) {
 
 INSTANTIATE_TEST_SUITE_P(
     Table, IsNumericTest,
-    testing::Values(NumericCase{" 12 ", true}, NumericCase{"12\r\n", true},
-                    NumericCase{"   ", false}, NumericCase{"1 2", false},  // blanks
-                    NumericCase{"1-", true}, NumericCase{"(1)", true}, NumericCase{"()", false},
-                    NumericCase{"(1", false}, NumericCase{"--1", false},
-                    NumericCase{"-", false},  // signs
-                    NumericCase{".5", true}, NumericCase{"5.", true}, NumericCase{".", false},
-                    NumericCase{"1.2.3", false}, NumericCase{"459.-", true},  // points
-                    NumericCase{"1,0,0", true}, NumericCase{",100", false},
-                    NumericCase{"1.5,0", false},  // thousands
-                    NumericCase{"$1", true}, NumericCase{"1$", true}, NumericCase{"$1$", false},
-                    NumericCase{"-$1", true},  // currency
-                    NumericCase{"1E+2", true}, NumericCase{"1e+", false},
-                    NumericCase{"1e2.5", false}, NumericCase{"1d2", false},
-                    NumericCase{"1e400", false}, NumericCase{"1e-400", true},  // exponent
-                    // The largest double's own 15-digit text lies past the maximum.
-                    NumericCase{"1.79769313486232E+308", false},
-                    NumericCase{"1.79769313486231E+308", true},
-                    NumericCase{"&hff", true}, NumericCase{"&O17", true}, NumericCase{"&H", false},
-                    NumericCase{"0x10", false}, NumericCase{"&O8", false},
-                    NumericCase{"&H1FFFFFFFF", false},  // hexadecimal and octal
-                    NumericCase{"1/1/2000", false}, NumericCase{"12abc", false},
-                    NumericCase{"", false}));
+    testing::Values(
+        NumericCase{" 12 ", true}, NumericCase{"12\r\n", true}, NumericCase{"   ", false},
+        NumericCase{"1 2", false},  // blanks
+        NumericCase{"1-", true}, NumericCase{"(1)", true}, NumericCase{"()", false},
+        NumericCase{"(1", false}, NumericCase{"--1", false}, NumericCase{"-", false},  // signs
+        NumericCase{".5", true}, NumericCase{"5.", true}, NumericCase{".", false},
+        NumericCase{"1.2.3", false}, NumericCase{"459.-", true},  // points
+        NumericCase{"1,0,0", true}, NumericCase{",100", false},
+        NumericCase{"1.5,0", false},  // thousands
+        NumericCase{"$1", true}, NumericCase{"1$", true}, NumericCase{"$1$", false},
+        NumericCase{"-$1", true},  // currency
+        NumericCase{"1E+2", true}, NumericCase{"1e+", false}, NumericCase{"1e2.5", false},
+        NumericCase{"1d2", false}, NumericCase{"1e400", false},
+        NumericCase{"1e-400", true},                  // exponent
+        NumericCase{"1.79769313486232E+308", false},  // past the largest double
+        NumericCase{"1.79769313486231E+308", true}, NumericCase{"&hff", true},
+        NumericCase{"&O17", true}, NumericCase{"&H", false}, NumericCase{"0x10", false},
+        NumericCase{"&O8", false}, NumericCase{"&H1FFFFFFFF", false},  // hexadecimal and octal
+        NumericCase{"1/1/2000", false}, NumericCase{"12abc", false}, NumericCase{"", false}));
 
 struct ParseCase {
     const char* text;
