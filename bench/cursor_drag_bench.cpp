@@ -14,6 +14,9 @@
 
 namespace {
 
+// The chart reports the mouse in twips (15 per pixel here).
+constexpr float kTwipsPerPixel = 15;
+
 using namespace zt;
 
 // A control holding a finished graph of `points` samples of 100 ms on channels 1 to 4, with
@@ -64,11 +67,11 @@ void BM_TimeCursorMouseMove(benchmark::State& st) {
         st.SkipWithError("no graph");
         return;
     }
-    g.root().MouseDown.raise(1, 0, 320, 200);  // grabs cursor A
+    g.root().MouseDown.raise(1, 0, 320 * kTwipsPerPixel, 200 * kTwipsPerPixel);  // grabs cursor A
     float x = 320;
     for (auto _ : st) {
         x = x >= 990 ? 330 : x + 7;
-        g.root().MouseMove.raise(1, 0, x, 200);
+        g.root().MouseMove.raise(1, 0, x * kTwipsPerPixel, 200 * kTwipsPerPixel);
     }
     st.counters["points"] = static_cast<double>(g.control.chartRefs().timeBase->pointCount());
 }
@@ -83,9 +86,9 @@ void BM_CursorReadoutsAtMouseUp(benchmark::State& st) {
     // over the whole graph.
     for (auto _ : st) {
         st.PauseTiming();
-        g.root().MouseDown.raise(1, 0, 1000, 200);
+        g.root().MouseDown.raise(1, 0, 1000 * kTwipsPerPixel, 200 * kTwipsPerPixel);
         st.ResumeTiming();
-        g.root().MouseUp.raise(1, 0, 1000, 200);
+        g.root().MouseUp.raise(1, 0, 1000 * kTwipsPerPixel, 200 * kTwipsPerPixel);
     }
     st.counters["points"] = static_cast<double>(g.control.chartRefs().timeBase->pointCount());
 }

@@ -52,10 +52,13 @@ void dragCursor(ztGraphControl& control, int kind, bool cursorA, double to) {
                                             height);
         toY = static_cast<float>(20 + to * height);
     }
-    root.MouseDown.raise(1, 0, fromX, fromY);
-    root.MouseMove.raise(1, 0, (fromX + toX) / 2, (fromY + toY) / 2);
-    root.MouseMove.raise(1, 0, toX, toY);
-    root.MouseUp.raise(1, 0, toX, toY);
+    // The chart reports the mouse in twips.
+    const auto tx = static_cast<float>(control.environment().twipsPerPixelX);
+    const auto ty = static_cast<float>(control.environment().twipsPerPixelY);
+    root.MouseDown.raise(1, 0, fromX * tx, fromY * ty);
+    root.MouseMove.raise(1, 0, (fromX + toX) / 2 * tx, (fromY + toY) / 2 * ty);
+    root.MouseMove.raise(1, 0, toX * tx, toY * ty);
+    root.MouseUp.raise(1, 0, toX * tx, toY * ty);
 }
 
 }  // namespace

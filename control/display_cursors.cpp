@@ -269,8 +269,16 @@ void GraphDisplay::optCursorClick(int index) {
     refreshReadouts();
 }
 
-void GraphDisplay::mouseDown(int16_t button, int16_t shift, float x, float y) {
+// The chart reports the mouse in twips; the cursors work in the chart's pixels.
+std::pair<double, double> GraphDisplay::mousePixels(float x, float y) const {
+    const double tppX = env_.twipsPerPixelX > 0 ? env_.twipsPerPixelX : 15;
+    const double tppY = env_.twipsPerPixelY > 0 ? env_.twipsPerPixelY : 15;
+    return {x / tppX, y / tppY};
+}
+
+void GraphDisplay::mouseDown(int16_t button, int16_t shift, float xTwips, float yTwips) {
     if (!alive() || s_.chkCursor.value() != ui::kChecked || (button & kLeftButton) == 0) return;
+    const auto [x, y] = mousePixels(xTwips, yTwips);
     CURSORSTATE& cs = state_.graphInfo.udtCursorState;
     both_ = (shift & kShiftKey) != 0;
     const auto grab = [](double m, double pA, double pB) {
@@ -296,7 +304,7 @@ void GraphDisplay::mouseDown(int16_t button, int16_t shift, float x, float y) {
     }
 }
 
-GraphDisplay::CursorDrag GraphDisplay::cursorDrag(float x, float y, bool clamp) const {
+GraphDisplay::CursorDrag GraphDisplay::cursorDrag(double x, double y, bool clamp) const {
     const CURSORSTATE& cs = state_.graphInfo.udtCursorState;
     CursorDrag d;
     if (cs.intCursorState == kTimeCursors) {
@@ -312,8 +320,9 @@ GraphDisplay::CursorDrag GraphDisplay::cursorDrag(float x, float y, bool clamp) 
     return d;
 }
 
-void GraphDisplay::mouseMove(int16_t button, int16_t, float x, float y) {
+void GraphDisplay::mouseMove(int16_t button, int16_t, float xTwips, float yTwips) {
     if (!alive() || s_.chkCursor.value() != ui::kChecked || (button & kLeftButton) == 0) return;
+    const auto [x, y] = mousePixels(xTwips, yTwips);
     const CursorDrag d = cursorDrag(x, y, false);
     if (d.grabbed == 0) return;
     setCursorPosition(d.fraction, d.kind, d.grabbed);
@@ -322,8 +331,9 @@ void GraphDisplay::mouseMove(int16_t button, int16_t, float x, float y) {
                           d.kind, d.grabbed == kCursorA ? kCursorB : kCursorA);
 }
 
-void GraphDisplay::mouseUp(int16_t button, int16_t, float x, float y) {
+void GraphDisplay::mouseUp(int16_t button, int16_t, float xTwips, float yTwips) {
     if (!alive() || s_.chkCursor.value() != ui::kChecked || (button & kLeftButton) == 0) return;
+    const auto [x, y] = mousePixels(xTwips, yTwips);
     const CursorDrag d = cursorDrag(x, y, true);
     const int kind = d.kind;
     const int grabbed = d.grabbed;

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <utility>
 
 #include "config/setting_sheets.h"
 #include "core/chart_refs.h"
@@ -84,9 +85,11 @@ class GraphDisplay {
     void optimizeVertScale();
     void chkCursorClick();
     void optCursorClick(int index);
+    // Chart mouse events, positions in twips from the chart's top left corner.
     void mouseDown(int16_t button, int16_t shift, float x, float y);
     void mouseMove(int16_t button, int16_t shift, float x, float y);
     void mouseUp(int16_t button, int16_t shift, float x, float y);
+    std::pair<double, double> mousePixels(float x, float y) const;
     // Where the mouse puts the grabbed cursor of the shown kind: the kind, the cursor (0 none),
     // the position as a fraction of the field and the two cursors' distance. `clamp` keeps the
     // mouse inside the plot field first.
@@ -96,7 +99,7 @@ class GraphDisplay {
         double fraction = 0;
         double distance = 0;
     };
-    CursorDrag cursorDrag(float x, float y, bool clamp) const;
+    CursorDrag cursorDrag(double x, double y, bool clamp) const;
 
     // Cursors.
     void setCursorPosition(double fraction, int kind, int which);

@@ -13,6 +13,9 @@
 namespace zt::testing {
 namespace {
 
+// The chart reports the mouse in twips (15 per pixel here).
+constexpr float kTwipsPerPixel = 15;
+
 constexpr int16_t kLeft = 1;
 constexpr int16_t kShift = 1;
 
@@ -20,10 +23,11 @@ class CursorTest : public ::testing::Test, public DisplayFixture {
   protected:
     chart::ChartRoot& root() { return control.chartRoot(); }
     void drag(float fromX, float fromY, float toX, float toY, int16_t shift = 0) {
-        root().MouseDown.raise(kLeft, shift, fromX, fromY);
-        root().MouseMove.raise(kLeft, shift, (fromX + toX) / 2, (fromY + toY) / 2);
-        root().MouseMove.raise(kLeft, shift, toX, toY);
-        root().MouseUp.raise(kLeft, shift, toX, toY);
+        root().MouseDown.raise(kLeft, shift, fromX * kTwipsPerPixel, fromY * kTwipsPerPixel);
+        root().MouseMove.raise(kLeft, shift, ((fromX + toX) / 2) * kTwipsPerPixel,
+                               ((fromY + toY) / 2) * kTwipsPerPixel);
+        root().MouseMove.raise(kLeft, shift, toX * kTwipsPerPixel, toY * kTwipsPerPixel);
+        root().MouseUp.raise(kLeft, shift, toX * kTwipsPerPixel, toY * kTwipsPerPixel);
     }
     void timeCursorsOn() { s().chkCursor.click(); }
     void valueCursorsOn() {
@@ -100,12 +104,13 @@ TEST_F(CursorTest, GrabTieGoesToBAndThePointerShowsTheDirection) {
     valueCursorsOn();
     drag(500, yAt(0), 500, 20 + 64);
     drag(500, yAt(1), 500, 20 + 80);
-    root().MouseDown.raise(kLeft, 0, 500, 20 + 72);  // 8 pixels from both
+    root().MouseDown.raise(kLeft, 0, 500 * kTwipsPerPixel,
+                           (20 + 72) * kTwipsPerPixel);  // 8 pixels from both
     EXPECT_EQ(s().registry.mousePointer, ui::MousePointer::SizeNS);
-    root().MouseMove.raise(kLeft, 0, 500, 20 + 128);
+    root().MouseMove.raise(kLeft, 0, 500 * kTwipsPerPixel, (20 + 128) * kTwipsPerPixel);
     EXPECT_FLOAT_EQ(cursors().sngHorzCursorBpos, 0.5f);
     EXPECT_FLOAT_EQ(cursors().sngHorzCursorApos, 0.25f);
-    root().MouseUp.raise(kLeft, 0, 500, 20 + 128);
+    root().MouseUp.raise(kLeft, 0, 500 * kTwipsPerPixel, (20 + 128) * kTwipsPerPixel);
     EXPECT_EQ(s().registry.mousePointer, ui::MousePointer::Default);
 }
 
@@ -113,10 +118,10 @@ TEST_F(CursorTest, ShiftDragMovesBothAndTheReleaseKeepsThePartnerInside) {
     valueCursorsOn();
     drag(500, yAt(0), 500, yAt(0.2));
     drag(500, yAt(1), 500, yAt(0.5));
-    root().MouseDown.raise(kLeft, kShift, 500, yAt(0.2));
-    root().MouseMove.raise(kLeft, kShift, 500, yAt(1));
+    root().MouseDown.raise(kLeft, kShift, 500 * kTwipsPerPixel, (yAt(0.2)) * kTwipsPerPixel);
+    root().MouseMove.raise(kLeft, kShift, 500 * kTwipsPerPixel, (yAt(1)) * kTwipsPerPixel);
     EXPECT_NEAR(cursors().sngHorzCursorBpos, 1.3, 1e-5);  // not clamped while moving
-    root().MouseUp.raise(kLeft, kShift, 500, yAt(1));
+    root().MouseUp.raise(kLeft, kShift, 500 * kTwipsPerPixel, (yAt(1)) * kTwipsPerPixel);
     EXPECT_NEAR(cursors().sngHorzCursorApos, 0.7, 1e-5);
     EXPECT_NEAR(cursors().sngHorzCursorBpos, 1.0, 1e-5);
     EXPECT_EQ(chart().valueCursorB->Y1, 450);
@@ -192,7 +197,7 @@ TEST_F(CursorTest, CursorControlsFollowTheRunStates) {
     // Without a graph the cursors cannot be shown.
     DisplayFixture empty(false);
     EXPECT_FALSE(empty.s().chkCursor.Enabled);
-    empty.control.chartRoot().MouseDown.raise(kLeft, 0, 320, 200);
+    empty.control.chartRoot().MouseDown.raise(kLeft, 0, 320 * kTwipsPerPixel, 200 * kTwipsPerPixel);
     EXPECT_EQ(empty.info().udtCursorState.intCursorState, 0);
 }
 

@@ -35,8 +35,13 @@ int16_t shiftOf(Qt::KeyboardModifiers modifiers) {
 }  // namespace
 
 ChartView::ChartView(chart::ChartRoot& root, std::function<void(const std::function<void()>&)> act,
-                     QWidget* parent)
-    : QWidget(parent), root_(root), act_(std::move(act)), renderer_(root) {
+                     int twipsX, int twipsY, QWidget* parent)
+    : QWidget(parent),
+      root_(root),
+      act_(std::move(act)),
+      renderer_(root),
+      twipsX_(twipsX > 0 ? twipsX : 15),
+      twipsY_(twipsY > 0 ? twipsY : 15) {
     setObjectName("CBGraph1");
     setAttribute(Qt::WA_OpaquePaintEvent);
     root_.Changes.listen([this] { update(); });
@@ -70,12 +75,13 @@ void ChartView::paintEvent(QPaintEvent*) {
 }
 
 void ChartView::forward(chart::MouseEvent& event, QMouseEvent* e, int16_t button) {
-    // The widget has the chart's size; a scaled widget would map back to chart pixels.
+    // The widget has the chart's size; a scaled widget would map back to chart pixels. The
+    // chart reports the mouse in twips.
     const QSize size = chartSize();
     const double sx = width() > 0 ? static_cast<double>(size.width()) / width() : 1;
     const double sy = height() > 0 ? static_cast<double>(size.height()) / height() : 1;
-    const auto x = static_cast<float>(e->position().x() * sx);
-    const auto y = static_cast<float>(e->position().y() * sy);
+    const auto x = static_cast<float>(e->position().x() * sx * twipsX_);
+    const auto y = static_cast<float>(e->position().y() * sy * twipsY_);
     const int16_t shift = shiftOf(e->modifiers());
     act_([&] { event.raise(button, shift, x, y); });
 }

@@ -15,9 +15,10 @@ namespace zt::view {
 
 class ChartView : public QWidget {
   public:
-    // `act` runs a person's action on the component (see ViewHost::act).
+    // `act` runs a person's action on the component (see ViewHost::act); mouse positions go to
+    // the chart in twips, `twipsX` and `twipsY` per pixel.
     ChartView(chart::ChartRoot& root, std::function<void(const std::function<void()>&)> act,
-              QWidget* parent);
+              int twipsX, int twipsY, QWidget* parent);
     ~ChartView() override;
 
     // The chart's size in pixels: its width plus room for the last time label, by its height.
@@ -40,6 +41,8 @@ class ChartView : public QWidget {
     chart::ChartRoot& root_;
     std::function<void(const std::function<void()>&)> act_;
     render::ChartRenderer renderer_;
+    double twipsX_;
+    double twipsY_;
     int draws_ = 0;
 };
 

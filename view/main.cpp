@@ -70,10 +70,13 @@ int screenshot(zt::view::MainWindow& window, const Options& o) {
     const zt::chart::Grid& grid = *window.control().chartRefs().grid;
     zt::chart::ChartRoot& root = window.control().chartRoot();
     const auto drag = [&](double from, double to) {
+        // The chart reports the mouse in twips.
+        const zt::HostEnvironment& env = window.control().environment();
         const auto x = [&](double f) {
-            return static_cast<float>(grid.Left + f * (grid.Right - grid.Left));
+            return static_cast<float>((grid.Left + f * (grid.Right - grid.Left)) *
+                                      env.twipsPerPixelX);
         };
-        const auto y = static_cast<float>((grid.Top + grid.Bottom) / 2.0);
+        const auto y = static_cast<float>((grid.Top + grid.Bottom) / 2.0 * env.twipsPerPixelY);
         window.surface().act([&] {
             root.MouseDown.raise(1, 0, x(from), y);
             root.MouseMove.raise(1, 0, x(to), y);

@@ -57,7 +57,8 @@ SurfaceView::SurfaceView(ztGraphControl& control, QWidget* parent)
     }
     operationStrip_ = widgetOf("tbsGraphOp");
     chart_ = new ChartView(
-        control_.chartRoot(), [this](const auto& a) { act(a); }, this);
+        control_.chartRoot(), [this](const auto& a) { act(a); },
+        control_.environment().twipsPerPixelX, control_.environment().twipsPerPixelY, this);
     for (ui::ControlBase* c : all) {
         if (isPanel(*c)) build(c);
     }
