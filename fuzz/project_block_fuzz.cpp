@@ -3,51 +3,21 @@
 // control as a host would (`LoadKivFile`). Nothing may crash or trip a sanitizer; a failed load
 // leaves the state reset, and the state after any load keeps the bounds the display relies on.
 // One control serves every input, as a host keeps one for its whole session.
-#include <unistd.h>
-
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
-#include <memory>
 #include <string>
 
-#include "control/graph_control.h"
+#include "fuzz/control_session.h"
 #include "fuzz/fuzz_input.h"
 #include "sim/sim_common.h"
-#include "sim/sim_common_library.h"
 #include "sim/sim_project_file.h"
 
 namespace {
 
-#define check(condition)                                                                       \
-    ((condition) ? void()                                                                      \
-                 : (std::fprintf(stderr, "check failed: line %d: %s\n", __LINE__, #condition), \
-                    std::abort()))
-
 using zt::fuzz::FuzzInput;
 
-struct Session {
-    Session() {
-        const char* tmp = std::getenv("TMPDIR");
-        folder = std::filesystem::path(tmp && *tmp ? tmp : "/tmp") /
-                 ("ztgraph-project-block-fuzz-" + std::to_string(::getpid()));
-        std::filesystem::create_directories(folder);
-        file = (folder / "project.ztp").string();
-        zt::SYS_INFO stations = library.sim().link().sysInfo();
-        zt::PARAMETER_INFO parameter;
-        control->SetSysInfo(1, stations, parameter);
-        control->ChgLineStatus(0);
-    }
-    zt::sim::SimCommonLibrary library;
-    std::unique_ptr<zt::ztGraphControl> control = std::make_unique<zt::ztGraphControl>(library);
-    std::filesystem::path folder;
-    std::string file;
-};
-
-Session& session() {
-    static Session s;
+zt::fuzz::ControlSession& session() {
+    static zt::fuzz::ControlSession s("project-block-fuzz", "project.ztp");
     return s;
 }
 
@@ -181,21 +151,10 @@ std::string block(FuzzInput& in, bool& wide3) {
     return b.bytes;
 }
 
-void checkState(const zt::ztGraphControl& control) {
-    const auto& s = control.state();
-    check(s.runState >= 0 && s.runState <= 6);
-    const auto& h = s.graphInfo.udtHistoryState;
-    check(h.lngCurrentGraph >= 0 && h.lngCurrentGraph <= 5);
-    check(h.lngGraphTotal >= 0 && h.lngGraphTotal <= 5);
-    check(s.version.lngHistoryMax >= 0 && s.version.lngHistoryMax <= 5);
-    for (const auto& slot : s.history.udtGraphResultInfo)
-        check(slot.udtSample.size() <= 10000);
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
-    Session& s = session();
+    zt::fuzz::ControlSession& s = session();
     FuzzInput in(data, size);
     bool wide3 = false;
     const std::string bytes = block(in, wide3);
@@ -211,7 +170,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
     program.lngMajor = wide3 ? 5 : 6;
     program.lngMinor = wide3 ? 20 : 0;
     const int16_t result = s.control->LoadKivFile(s.file, version, program);
-    check(result == 0 || result == -1);
-    checkState(*s.control);
+    ZT_FUZZ_CHECK(result == 0 || result == -1);
+    zt::fuzz::checkState(*s.control);
     return 0;
 }
