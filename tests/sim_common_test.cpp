@@ -1,5 +1,6 @@
 #include "sim/sim_common.h"
 #include "sim/sim_project_file.h"
+#include "tests/file_bytes.h"
 
 #include <gtest/gtest.h>
 
@@ -20,11 +21,6 @@ std::filesystem::path tempDir() {
     dir /= "sim_common";
     std::filesystem::create_directories(dir);
     return dir;
-}
-
-std::string readAll(const std::filesystem::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 int32_t modelCodeOf(std::string_view key) {

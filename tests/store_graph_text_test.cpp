@@ -18,18 +18,12 @@
 #include "store/graph_text_export.h"
 #include "store/graph_text_import.h"
 #include "store/state_reset.h"
+#include "tests/file_bytes.h"
 
 namespace zt {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string readAll(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::stringstream ss;
-    ss << in.rdbuf();
-    return ss.str();
-}
 
 std::vector<std::string> linesOf(const std::string& text) {
     std::vector<std::string> lines;

@@ -15,18 +15,12 @@
 #include "sim/sim_project_file.h"
 #include "store/project_block.h"
 #include "store/state_reset.h"
+#include "tests/file_bytes.h"
 
 namespace zt {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string readAll(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::stringstream ss;
-    ss << in.rdbuf();
-    return ss.str();
-}
 
 template <typename T>
 T at(const std::string& bytes, std::size_t offset) {

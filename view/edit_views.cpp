@@ -24,6 +24,22 @@ void showEditText(QLineEdit* edit, const std::string& text, int selStart, int se
     }
 }
 
+// Clicks and arrow keys move the caret or select; the model (a text or combo box) keeps where
+// the next key goes.
+template <typename Model>
+void followCaret(QLineEdit* edit, Model& m) {
+    QObject::connect(edit, &QLineEdit::cursorPositionChanged, edit, [&m, edit](int, int at) {
+        if (edit->hasSelectedText()) return;
+        m.setSelStart(at);
+        m.setSelLength(0);
+    });
+    QObject::connect(edit, &QLineEdit::selectionChanged, edit, [&m, edit] {
+        if (!edit->hasSelectedText()) return;
+        m.setSelStart(edit->selectionStart());
+        m.setSelLength(static_cast<int>(edit->selectedText().size()));
+    });
+}
+
 class TextView : public ControlView {
   public:
     TextView(ui::TextBox& m, QWidget* parent, ViewHost& host)
@@ -33,18 +49,7 @@ class TextView : public ControlView {
                                 [this](int k) { act([&] { m_.pressKey(k); }); },
                                 [this] { act([this] { m_.focus(); }); },
                                 [this] { act([this] { m_.leave(); }); }});
-        // Clicks and arrow keys move the caret; the model keeps where the next key goes.
-        QObject::connect(edit, &QLineEdit::cursorPositionChanged, edit, [this, edit](int, int at) {
-            if (!edit->hasSelectedText()) {
-                m_.setSelStart(at);
-                m_.setSelLength(0);
-            }
-        });
-        QObject::connect(edit, &QLineEdit::selectionChanged, edit, [this, edit] {
-            if (!edit->hasSelectedText()) return;
-            m_.setSelStart(edit->selectionStart());
-            m_.setSelLength(static_cast<int>(edit->selectedText().size()));
-        });
+        followCaret(edit, m_);
     }
 
   protected:
@@ -77,20 +82,7 @@ class ComboView : public ControlView {
                                 [this](int k) { act([&] { m_.pressKey(k); }); },
                                 [this] { act([this] { m_.focus(); }); },
                                 [this] { act([this] { m_.leave(); }); }});
-        if (editable) {
-            QLineEdit* edit = combo->lineEdit();
-            QObject::connect(edit, &QLineEdit::cursorPositionChanged, edit,
-                             [this, edit](int, int at) {
-                                 if (edit->hasSelectedText()) return;
-                                 m_.setSelStart(at);
-                                 m_.setSelLength(0);
-                             });
-            QObject::connect(edit, &QLineEdit::selectionChanged, edit, [this, edit] {
-                if (!edit->hasSelectedText()) return;
-                m_.setSelStart(edit->selectionStart());
-                m_.setSelLength(static_cast<int>(edit->selectedText().size()));
-            });
-        }
+        if (editable) followCaret(combo->lineEdit(), m_);
     }
 
   protected:
