@@ -1,10 +1,8 @@
 #include "store/graph_text_import.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <iterator>
 #include <limits>
 #include <memory>
@@ -16,6 +14,7 @@
 #include "platform/text/numeric.h"
 #include "platform/text/rounding.h"
 #include "store/graph_text_export.h"
+#include "store/sample_line_scan.h"
 
 namespace zt {
 
@@ -312,128 +311,6 @@ void storeField(SampleRecord& r, int field, std::string_view v) {
             break;
         default:
             readField(v, r.lngAnalogData[static_cast<std::size_t>(field - 3)]);
-    }
-}
-
-// Reads the field at `p` (up to the next comma or `end`) into `target` when, without its
-// blanks, it is a plain signed decimal integer of at most 18 digits that fits; anything else
-// is skipped. The same rule as readField, in one pass over the characters. Returns the field's
-// end, or null for a field in double quotes, which may hold commas.
-// Reads the run of decimal digits at `p` (not past `end`) into `v`; returns the run's end.
-// Eight characters are looked at in one go (they may lie past `end`, never past `limit`): the
-// run is found and valued with a few multiplies instead of one unpredictable branch per digit.
-const char* readDigits(const char* p, const char* end, const char* limit, uint64_t& v) {
-    v = 0;
-    if (std::endian::native == std::endian::little && limit - p >= 8) {
-        uint64_t chunk = 0;
-        std::memcpy(&chunk, p, 8);
-        const uint64_t values = chunk ^ 0x3030303030303030u;  // a digit becomes 0 to 9
-        // A byte is no digit when its high nibble is set or adding 6 carries into it; a carry
-        // into later bytes only follows a byte already marked.
-        const uint64_t marks = (values | (values + 0x0606060606060606u)) & 0xF0F0F0F0F0F0F0F0u;
-        const int run = static_cast<int>(
-            std::min<std::ptrdiff_t>(marks == 0 ? 8 : std::countr_zero(marks) / 8, end - p));
-        if (run > 0) {
-            uint64_t d = values << (8 * (8 - run));  // leading zero digits fill the word
-            d = (d * 10 + (d >> 8)) & 0x00FF00FF00FF00FFu;
-            d = (d * 100 + (d >> 16)) & 0x0000FFFF0000FFFFu;
-            v = (d * 10000 + (d >> 32)) & 0xFFFFFFFFu;
-            p += run;
-        }
-        if (run < 8) return p;
-    }
-    while (p != end && static_cast<unsigned char>(*p - '0') < 10) {
-        v = v * 10 + static_cast<unsigned>(*p - '0');
-        ++p;
-    }
-    return p;
-}
-
-// Stores a signed value of `count` digits in `target` when it has 1 to 18 digits and fits.
-template <typename T>
-bool storeDigits(bool negative, uint64_t v, std::size_t count, T& target) {
-    if (count == 0 || count > 18) return false;
-    const int64_t value = negative ? -static_cast<int64_t>(v) : static_cast<int64_t>(v);
-    if (value < std::numeric_limits<T>::min() || value > std::numeric_limits<T>::max())
-        return false;
-    target = static_cast<T>(value);
-    return true;
-}
-
-// Reads the field at `p` (up to the next comma or `end`) into `target` when, without its
-// blanks, it is a plain signed decimal integer of at most 18 digits that fits; anything else
-// is skipped. The same rule as readField, in one pass over the characters. Returns the field's
-// end, or null for a field in double quotes, which may hold commas.
-template <typename T>
-const char* scanField(const char* p, const char* end, const char* limit, T& target) {
-    while (p != end && isBlank(*p))
-        ++p;
-    if (p != end && *p == '"') return nullptr;  // quoted: the line needs splitFields
-    // The sign without a branch: random data has either sign half the time.
-    const bool negative = p != end && *p == '-';
-    p += static_cast<int>(p != end && (*p == '-' || *p == '+'));
-    const char* const digits = p;
-    uint64_t v = 0;
-    p = readDigits(p, end, limit, v);
-    const auto count = static_cast<std::size_t>(p - digits);
-    while (p != end && isBlank(*p))
-        ++p;
-    if (p != end && *p != ',') {
-        // Not a number: skip to the field's end.
-        p = static_cast<const char*>(std::memchr(p, ',', static_cast<std::size_t>(end - p)));
-        return p != nullptr ? p : end;
-    }
-    storeDigits(negative, v, count, target);
-    return p;
-}
-
-// The usual line of a table, one record of seven plain numbers ended by LF, CR LF or the end of
-// the text, read at `p` into `r` without looking for the line's end first. Returns where the
-// next line starts, or null (nothing stored) for any other line, which the line-by-line
-// reading then takes.
-const char* scanRecordLine(const char* p, const char* limit, SampleRecord& r) {
-    SampleRecord read;
-    bool ok = true;
-    const auto next = [&](auto& target, bool last) {
-        if (!ok) return;
-        const bool negative = p != limit && *p == '-';
-        p += static_cast<int>(negative);
-        const char* const digits = p;
-        uint64_t v = 0;
-        p = readDigits(p, limit, limit, v);
-        ok = storeDigits(negative, v, static_cast<std::size_t>(p - digits), target);
-        if (!ok) return;
-        if (!last) {
-            ok = p != limit && *p == ',';
-            ++p;
-            return;
-        }
-        if (p != limit && *p == '\r') ++p;
-        if (p != limit) ok = *p++ == '\n';
-    };
-    next(read.lngDiffTime, false);
-    next(read.intFaultData, false);
-    next(read.intDigitalData, false);
-    for (std::size_t i = 0; i < read.lngAnalogData.size(); ++i)
-        next(read.lngAnalogData[i], i + 1 == read.lngAnalogData.size());
-    if (!ok) return nullptr;
-    r = read;
-    return p;
-}
-
-// The field `field` (0 to 6) of a sample record at `p`; returns the field's end (null for a
-// quoted field).
-const char* scanRecordField(const char* p, const char* end, const char* limit, SampleRecord& r,
-                            int field) {
-    switch (field) {
-        case 0:
-            return scanField(p, end, limit, r.lngDiffTime);
-        case 1:
-            return scanField(p, end, limit, r.intFaultData);
-        case 2:
-            return scanField(p, end, limit, r.intDigitalData);
-        default:
-            return scanField(p, end, limit, r.lngAnalogData[static_cast<std::size_t>(field - 3)]);
     }
 }
 
