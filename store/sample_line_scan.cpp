@@ -136,11 +136,9 @@ const char* scanRecordLineByFields(const char* p, const char* limit, SampleRecor
 
 #if defined(__SSE2__)
 
-// The window of text one line is looked for in, and the bytes past it a field's word may read.
-constexpr std::ptrdiff_t kWindow = 64;
-constexpr std::ptrdiff_t kReadAhead = kWindow + 8;
+// A line is looked for in a window of 64 bytes; a field's word may read 8 bytes past it.
+constexpr std::ptrdiff_t kReadAhead = 64 + 8;
 
-// The 64 bytes a line is looked for in.
 struct Window {
     explicit Window(const char* p)
         : a(load(p)), b(load(p + 16)), c(load(p + 32)), d(load(p + 48)) {}
