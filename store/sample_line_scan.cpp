@@ -198,8 +198,10 @@ const char* scanRecordLineAtOnce(const char* p, const char* limit, SampleRecord&
     // Eight digits always fit 32 bits; the two 16-bit fields are checked.
     int64_t v0 = 0, v1 = 0, v2 = 0, v3 = 0, v4 = 0, v5 = 0, v6 = 0;
     bool ok = fieldValue(p, 0, c0, v0);
-    ok &= fieldValue(p, c0 + 1, c1, v1) & fitsInt16(v1);
-    ok &= fieldValue(p, c1 + 1, c2, v2) & fitsInt16(v2);
+    ok &= fieldValue(p, c0 + 1, c1, v1);
+    ok &= fitsInt16(v1);
+    ok &= fieldValue(p, c1 + 1, c2, v2);
+    ok &= fitsInt16(v2);
     ok &= fieldValue(p, c2 + 1, c3, v3);
     ok &= fieldValue(p, c3 + 1, c4, v4);
     ok &= fieldValue(p, c4 + 1, c5, v5);
